@@ -1,0 +1,57 @@
+#include "Climb.h"
+
+#include "AnalyseTable.h"
+
+namespace host {
+
+Climb* Climb::_innermost = nullptr;
+
+namespace {
+int undelivered = 0;
+}
+
+Climb::Climb(CATCommand& iSender) : _sender(&iSender), _from(&iSender), _outer(_innermost) { _innermost = this; }
+
+Climb::~Climb() { _innermost = _outer; }
+
+void Climb::Run(CATCommand& iTarget, CATNotification& ioNotification) {
+    _next = &iTarget;
+    if (AnalyseTable::Run(*_sender, _sender, _sender, ioNotification))
+        return;
+    while (_next != nullptr) {
+        _here = _next;
+        _next = _here->_father;
+        if (Visit(*_here, ioNotification))
+            return;
+        _from = _here;
+    }
+    ++undelivered;
+}
+
+// True when ioCommand ends the climb.
+bool Climb::Visit(CATCommand& ioCommand, CATNotification& ioNotification) {
+    if (&ioCommand != _sender && AnalyseTable::Run(ioCommand, _sender, _from, ioNotification))
+        return true;
+    if (_here == nullptr)
+        return false;
+    return ioCommand.AnalyseNotification(_from, &ioNotification) == CATNotifDontTransmitToFather;
+}
+
+void Climb::Forget(const CATCommand& iCommand) {
+    for (Climb* climb = _innermost; climb != nullptr; climb = climb->_outer) {
+        if (climb->_sender == &iCommand)
+            climb->_sender = nullptr;
+        if (climb->_from == &iCommand)
+            climb->_from = nullptr;
+        if (climb->_here == &iCommand)
+            climb->_here = nullptr;
+        if (climb->_next == &iCommand)
+            climb->_next = iCommand._father;
+    }
+}
+
+int Climb::Undelivered() { return undelivered; }
+
+void Climb::ResetUndelivered() { undelivered = 0; }
+
+} // namespace host

@@ -1,0 +1,157 @@
+#include "host/MessageCatalogs.h"
+
+#include "CatalogFile.h"
+#include "host/FaultPoints.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <sstream>
+
+namespace host {
+
+namespace {
+
+struct State {
+    std::vector<std::string> folders;
+    std::string language;
+    std::unordered_map<std::string, CatalogTexts> files; // by "language/name.ext"
+    std::vector<CatalogProblem> problems;
+    std::vector<std::string> missing;
+};
+
+unsigned generation = 1;
+
+State& Current() {
+    static auto* state = new State;
+    return *state;
+}
+
+std::vector<std::string> EnvironmentFolders() {
+    std::vector<std::string> folders;
+    const char* path = std::getenv("CATMsgCatalogPath");
+    if (path == nullptr)
+        return folders;
+    std::istringstream parts{std::string(path)};
+    for (std::string folder; std::getline(parts, folder, ':');)
+        if (!folder.empty())
+            folders.push_back(folder);
+    return folders;
+}
+
+// A name that would leave the message folders names no file.
+bool IsPlainName(const std::string& iName) {
+    return !iName.empty() && iName.find_first_of("/\\") == std::string::npos && iName != "." && iName != "..";
+}
+
+void ForgetFiles() {
+    Current().files.clear();
+    ++generation;
+}
+
+void ReadFrom(const std::vector<std::string>& iFolders, const std::string& iFile, CatalogTexts& ioTexts) {
+    for (const std::string& folder : iFolders) {
+        CatalogTexts texts;
+        if (CatalogFile::Read(folder + "/" + iFile, texts, Current().problems))
+            ioTexts.merge(texts);
+    }
+}
+
+const CatalogTexts& TextsOf(const std::string& iLanguage, const std::string& iName, const char* iExtension) {
+    static const CatalogTexts none;
+    if (!IsPlainName(iName))
+        return none;
+    const std::string file = (iLanguage.empty() ? std::string() : iLanguage + "/") + iName + iExtension;
+    const auto known = Current().files.find(file);
+    if (known != Current().files.end())
+        return known->second;
+    CatalogTexts& texts = Current().files[file];
+    ReadFrom(Current().folders, file, texts);
+    ReadFrom(EnvironmentFolders(), file, texts);
+    return texts;
+}
+
+std::optional<std::string> Find(const CatalogTexts& iTexts, const std::string& iKey) {
+    const auto found = iTexts.find(iKey);
+    if (found == iTexts.end())
+        return std::nullopt;
+    return found->second;
+}
+
+} // namespace
+
+void MessageCatalogs::AddFolder(const std::string& iFolder) {
+    Current().folders.push_back(iFolder);
+    ForgetFiles();
+}
+
+void MessageCatalogs::SetLanguage(const std::string& iLanguage) {
+    if (Current().language == iLanguage)
+        return;
+    Current().language = iLanguage;
+    ForgetFiles();
+}
+
+const std::string& MessageCatalogs::Language() { return Current().language; }
+
+std::optional<std::string> MessageCatalogs::Text(const std::string& iCatalog, const std::string& iKey) {
+    if (FaultPoints::Fails("message look-up"))
+        return std::nullopt;
+    const std::string& language = Current().language;
+    if (IsPlainName(language)) {
+        std::optional<std::string> text = Find(TextsOf(language, iCatalog, ".CATNls"), iKey);
+        if (text.has_value())
+            return text;
+    }
+    return Find(TextsOf(std::string(), iCatalog, ".CATNls"), iKey);
+}
+
+std::optional<std::string> MessageCatalogs::Resource(const std::string& iName, const std::string& iKey) {
+    if (FaultPoints::Fails("resource look-up"))
+        return std::nullopt;
+    return Find(TextsOf(std::string(), iName, ".CATRsc"), iKey);
+}
+
+std::vector<std::string> MessageCatalogs::Keys(const std::string& iCatalog, const std::string& iLanguage) {
+    std::vector<std::string> keys;
+    for (const auto& entry : TextsOf(iLanguage, iCatalog, ".CATNls"))
+        keys.push_back(entry.first);
+    std::sort(keys.begin(), keys.end());
+    return keys;
+}
+
+std::string MessageCatalogs::Fill(const std::string& iText, const std::vector<std::string>& iParameters) {
+    std::string filled;
+    for (std::size_t at = 0; at < iText.size(); ++at) {
+        const bool isPlace = iText[at] == '/' && at + 2 < iText.size() &&
+                             (iText[at + 1] == 'p' || iText[at + 1] == 'P') && iText[at + 2] >= '1' &&
+                             iText[at + 2] <= '9';
+        const std::size_t number = isPlace ? static_cast<std::size_t>(iText[at + 2] - '0') : 0;
+        if (number == 0 || number > iParameters.size()) {
+            filled.push_back(iText[at]);
+            continue;
+        }
+        filled += iParameters[number - 1];
+        at += 2;
+    }
+    return filled;
+}
+
+const std::vector<CatalogProblem>& MessageCatalogs::Problems() { return Current().problems; }
+
+const std::vector<std::string>& MessageCatalogs::Missing() { return Current().missing; }
+
+void MessageCatalogs::RecordMissing(const std::string& iText) {
+    std::vector<std::string>& missing = Current().missing;
+    if (std::find(missing.begin(), missing.end(), iText) == missing.end())
+        missing.push_back(iText);
+}
+
+unsigned MessageCatalogs::Generation() { return generation; }
+
+void MessageCatalogs::Reset() {
+    Current() = State();
+    ++generation;
+}
+
+} // namespace host

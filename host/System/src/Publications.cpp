@@ -1,0 +1,106 @@
+#include "Publications.h"
+
+#include "CATNotification.h"
+#include "SubscriptionIds.h"
+
+namespace host {
+
+Publications& Publications::Of(CATBaseUnknown& ioPublisher) {
+    if (ioPublisher._publications == nullptr) {
+        ioPublisher._publications = new Publications;
+        ioPublisher._publications->publisher = &ioPublisher;
+    }
+    return *ioPublisher._publications;
+}
+
+void Publications::End(CATBaseUnknown& ioPublisher) {
+    Publications* const publications = ioPublisher._publications;
+    ioPublisher._publications = nullptr;
+    publications->publisher = nullptr;
+    ++publications->dispatching;
+    for (Subscription* each = publications->first; each != nullptr; each = each->next)
+        publications->EndSubscription(*each);
+    --publications->dispatching;
+    publications->Sweep();
+}
+
+void Publications::Append(Subscription& ioSubscription) {
+    ioSubscription.publications = this;
+    ioSubscription.previous = last;
+    (last == nullptr ? first : last->next) = &ioSubscription;
+    last = &ioSubscription;
+}
+
+void Publications::Dispatch(CATNotification& ioNotification) {
+    if (first == nullptr)
+        return;
+    CATBaseUnknown* const source = publisher;
+    const Subscription* const stop = last;
+    ++dispatching;
+    for (Subscription* each = first; each != nullptr; each = each->next) {
+        if (each->subscriber != nullptr && ioNotification.IsAKindOf(each->event) != 0)
+            (each->subscriber->*each->method)(each->event, source, &ioNotification, each->data, each->id);
+        if (each == stop)
+            break;
+    }
+    --dispatching;
+    Sweep();
+}
+
+void Publications::EndSubscription(Subscription& ioSubscription) {
+    if (ioSubscription.subscriber == nullptr)
+        return;
+    SubscriptionChain::Remove(ioSubscription);
+    SubscriptionIds::GiveBack(ioSubscription.id);
+    ioSubscription.subscriber = nullptr;
+    if (dispatching > 0)
+        return;
+    Unlink(ioSubscription);
+    delete &ioSubscription;
+}
+
+void Publications::Unlink(Subscription& ioSubscription) {
+    (ioSubscription.previous == nullptr ? first : ioSubscription.previous->next) = ioSubscription.next;
+    (ioSubscription.next == nullptr ? last : ioSubscription.next->previous) = ioSubscription.previous;
+}
+
+// Frees the ended subscriptions, and itself once the publisher is gone.
+void Publications::Sweep() {
+    if (dispatching > 0)
+        return;
+    Subscription* each = first;
+    while (each != nullptr) {
+        Subscription* const following = each->next;
+        if (each->subscriber == nullptr) {
+            Unlink(*each);
+            delete each;
+        }
+        each = following;
+    }
+    if (publisher == nullptr)
+        delete this;
+}
+
+void SubscriptionChain::Add(Subscription& ioSubscription) {
+    Subscription*& head = ioSubscription.subscriber->_firstSubscription;
+    ioSubscription.nextOfSubscriber = head;
+    if (head != nullptr)
+        head->previousOfSubscriber = &ioSubscription;
+    head = &ioSubscription;
+}
+
+void SubscriptionChain::Remove(Subscription& ioSubscription) {
+    Subscription*& head = ioSubscription.subscriber->_firstSubscription;
+    Subscription* const before = ioSubscription.previousOfSubscriber;
+    Subscription* const after = ioSubscription.nextOfSubscriber;
+    (before == nullptr ? head : before->nextOfSubscriber) = after;
+    if (after != nullptr)
+        after->previousOfSubscriber = before;
+}
+
+void SubscriptionChain::EndAll(CATEventSubscriber& ioSubscriber) {
+    while (ioSubscriber._firstSubscription != nullptr)
+        ioSubscriber._firstSubscription->publications->EndSubscription(*ioSubscriber._firstSubscription);
+}
+
+} // namespace host

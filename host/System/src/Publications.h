@@ -1,0 +1,59 @@
+#ifndef Publications_H
+#define Publications_H
+
+#include "CATEventSubscriber.h"
+
+namespace host {
+
+struct Publications;
+
+// One subscription: a link in the chain of its publisher and in the chain of its subscriber.
+struct Subscription {
+    CATEventSubscriber* subscriber = nullptr; // null once the subscription has ended
+    Publications* publications = nullptr;
+    const char* event = nullptr; // interned
+    CATSubscriberMethod method = nullptr;
+    CATSubscriberData data = nullptr;
+    CATCallback id = -1;
+    Subscription* previous = nullptr; // in the publisher's chain
+    Subscription* next = nullptr;
+    Subscription* previousOfSubscriber = nullptr;
+    Subscription* nextOfSubscriber = nullptr;
+};
+
+// The subscriptions on one publisher, in order.
+//
+// While an event is dispatched no link is taken out: ended ones stay, marked, until the dispatch is over.
+struct Publications {
+    CATBaseUnknown* publisher = nullptr; // null once it is destroyed
+    Subscription* first = nullptr;
+    Subscription* last = nullptr;
+    int dispatching = 0;
+
+    // The publications of ioPublisher, made when there are none.
+    static Publications& Of(CATBaseUnknown& ioPublisher);
+    // The publications of iPublisher, or null.
+    static Publications* Find(const CATBaseUnknown& iPublisher) { return iPublisher._publications; }
+    // Ends all of them because the publisher is being destroyed.
+    static void End(CATBaseUnknown& ioPublisher);
+
+    void Append(Subscription& ioSubscription);
+    void Dispatch(CATNotification& ioNotification);
+    // Marks a subscription as ended and frees what can be freed.
+    void EndSubscription(Subscription& ioSubscription);
+
+  private:
+    void Unlink(Subscription& ioSubscription);
+    void Sweep();
+};
+
+// The chain of one subscriber.
+struct SubscriptionChain {
+    static void Add(Subscription& ioSubscription);
+    static void Remove(Subscription& ioSubscription);
+    static void EndAll(CATEventSubscriber& ioSubscriber);
+};
+
+} // namespace host
+
+#endif

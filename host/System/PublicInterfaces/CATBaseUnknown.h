@@ -14,8 +14,8 @@ struct Publications;
 // Base of every object of the platform: reference counting, interfaces, meta class.
 //
 // An object is born with one reference, which belongs to whoever created it, and dies when its last reference
-// is released. Objects of the dialog tree are deleted by their parent instead. A copy is an object of its own:
-// it starts with one reference and no subscriptions.
+// is released. Objects of the dialog tree are deleted by their parent instead. A copy is an object of its
+// own: it starts with one reference and no subscriptions.
 class CATBaseUnknown {
   public:
     CATBaseUnknown();
@@ -63,8 +63,9 @@ class CATBaseUnknown {
     friend struct host::Publications;
 
     CATULong _references = 1;
-    host::Publications* _publications = nullptr; // subscriptions on this object; null as long as there is none
-    CATBaseUnknown* _previousLive = nullptr;     // chain of all live objects
+    host::Publications* _publications =
+        nullptr;                             // subscriptions on this object; null as long as there is none
+    CATBaseUnknown* _previousLive = nullptr; // chain of all live objects
     CATBaseUnknown* _nextLive = nullptr;
 };
 

@@ -8,7 +8,7 @@
 //
 // It differs from the handle of an interface in one point: it keeps the very pointer that it is given, since
 // every object is a CATBaseUnknown.
-template <>
+template<>
 class CATHandle<CATBaseUnknown> {
   public:
     constexpr CATHandle() noexcept = default;
@@ -19,7 +19,7 @@ class CATHandle<CATBaseUnknown> {
             _object->AddRef();
     }
     CATHandle(const CATBaseUnknown* iObject) : CATHandle(const_cast<CATBaseUnknown*>(iObject)) {}
-    template <class Other>
+    template<class Other>
     CATHandle(const CATHandle<Other>& iOther) : CATHandle(iOther.Object()) {}
     ~CATHandle() {
         if (_object != nullptr)
@@ -45,11 +45,11 @@ class CATHandle<CATBaseUnknown> {
     bool operator!() const { return _object == nullptr; }
     CATBaseUnknown* Object() const { return _object; }
 
-    template <class Other>
+    template<class Other>
     bool operator==(const CATHandle<Other>& iOther) const {
         return Same(iOther.Object());
     }
-    template <class Other>
+    template<class Other>
     bool operator!=(const CATHandle<Other>& iOther) const {
         return !Same(iOther.Object());
     }

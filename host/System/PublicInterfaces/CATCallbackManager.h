@@ -25,8 +25,8 @@ void RemoveCallback(CATEventSubscriber* iSubscriber, CATBaseUnknown* iPublisher,
 // Ends all subscriptions of iSubscriber on iPublisher.
 void RemoveSubscriberCallbacks(CATEventSubscriber* iSubscriber, CATBaseUnknown* iPublisher);
 
-// Runs the callbacks that iPublisher's subscribers have for the class of iNotification or a class above it. The
-// notification stays the caller's.
+// Runs the callbacks that iPublisher's subscribers have for the class of iNotification or a class above it.
+// The notification stays the caller's.
 void DispatchCallbacks(CATNotification* iNotification, CATBaseUnknown* iPublisher);
 
 #endif

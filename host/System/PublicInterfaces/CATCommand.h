@@ -39,15 +39,15 @@ class CATCommand : public CATEventSubscriber {
     const CATString& GetName() const { return _name; }
     CATCommand* GetFather() const { return _father; }
 
-    // Sends iNotification to iToCommand and upwards, and takes one reference of it over. A null notification or
-    // target does nothing, except that the reference of the notification is released.
+    // Sends iNotification to iToCommand and upwards, and takes one reference of it over. A null notification
+    // or target does nothing, except that the reference of the notification is released.
     void SendNotification(CATCommand* iToCommand, CATNotification* iNotification);
 
     // iFrom is the command that passed the notification on. The base lets it climb.
     virtual CATNotifPropagationMode AnalyseNotification(CATCommand* iFrom, CATNotification* iNotification);
 
-    // Lets a method of this command answer a notification that iPublisher, this command itself or one below it,
-    // sends. A null publisher or notification stands for any. Several methods for one pair run in order.
+    // Lets a method of this command answer a notification that iPublisher, this command itself or one below
+    // it, sends. A null publisher or notification stands for any. Several methods for one pair run in order.
     void AddAnalyseNotificationCB(CATCommand* iPublisher, CATNotification* iNotification,
                                   CATCommandMethod iMethod, CATCommandClientData iData);
     void AddAnalyseNotificationCB(CATCommand* iPublisher, const char* iNotificationClass,
@@ -60,8 +60,8 @@ class CATCommand : public CATEventSubscriber {
     void RemoveAnalyseNotificationCB(CATCommand* iPublisher, const char* iNotificationClass,
                                      CATCommandClientData iData);
 
-    // Destroys the command when control is back in the main loop. From now on it sends nothing. Repeated calls
-    // are harmless.
+    // Destroys the command when control is back in the main loop. From now on it sends nothing. Repeated
+    // calls are harmless.
     virtual void RequestDelayedDestruction();
 
   protected:
@@ -74,9 +74,10 @@ class CATCommand : public CATEventSubscriber {
     friend class host::DelayedDestruction;
 
     CATString _name;
-    CATCommand* _father;                         // not owned
-    host::AnalyseTable* _analyseTable = nullptr; // subscriptions by and on this command; null while there is none
-    bool _isDoomed = false;                      // delayed destruction was asked for
+    CATCommand* _father; // not owned
+    host::AnalyseTable* _analyseTable =
+        nullptr;            // subscriptions by and on this command; null while there is none
+    bool _isDoomed = false; // delayed destruction was asked for
 };
 
 #endif

@@ -36,8 +36,8 @@ class CATError : public CATBaseUnknown {
     void SetType(CATErrorType iType) { _type = iType; }
     CATErrorType GetType() const { return _type; }
 
-    // The complete message: request, diagnostic and advice, as far as the catalogue has them, each on a line of
-    // its own; else the text of the plain key; else the parameters; else the key.
+    // The complete message: request, diagnostic and advice, as far as the catalogue has them, each on a line
+    // of its own; else the text of the plain key; else the parameters; else the key.
     CATUnicodeString GetNLSMessage() const;
     // The single parts; empty when the catalogue has none.
     CATUnicodeString GetNLSRequest() const;
@@ -73,10 +73,10 @@ class CATError : public CATBaseUnknown {
 };
 
 // The documented short forms of GetReturn.
-#define CATReturnSuccess                                                                                       \
+#define CATReturnSuccess                                                                                     \
     return CATError::GetReturn(CATReturnKindSuccess, nullptr, nullptr, __FILE__, __LINE__)
 #define CATReturnFailure return CATError::GetReturn(0, nullptr, nullptr, __FILE__, __LINE__)
-#define CATReturnError(iError)                                                                                 \
+#define CATReturnError(iError)                                                                               \
     return CATError::GetReturn(CATReturnKindError, iError, nullptr, __FILE__, __LINE__)
 
 #endif

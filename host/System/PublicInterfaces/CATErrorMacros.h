@@ -13,8 +13,8 @@
 //     }
 //     CATEndTry;
 //
-// An object of another class is raised again unchanged, unless CATCatchOthers takes it. There is one CATCatch to
-// a block. C++ exceptions pass through.
+// An object of another class is raised again unchanged, unless CATCatchOthers takes it. There is one CATCatch
+// to a block. C++ exceptions pass through.
 
 // The frame of one guarded block.
 class CATXHContext {
@@ -24,7 +24,7 @@ class CATXHContext {
     CATXHContext& operator=(const CATXHContext&) = delete;
 
     // iThrown as the class iClass, or null when it is no kind of it.
-    template <class Class>
+    template<class Class>
     static Class* As(CATBaseUnknown* iThrown) {
         if (iThrown == nullptr || !iThrown->IsAKindOf(Class::ClassName()))
             return nullptr;

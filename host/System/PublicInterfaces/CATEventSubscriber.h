@@ -19,8 +19,8 @@ class CATEventSubscriber;
 
 // A subscriber's method. iPublisher is the publisher as a CATBaseUnknown*.
 typedef void (CATEventSubscriber::*CATSubscriberMethod)(CATCallbackEvent iEvent, void* iPublisher,
-                                                        CATNotification* iNotification, CATSubscriberData iData,
-                                                        CATCallback iId);
+                                                        CATNotification* iNotification,
+                                                        CATSubscriberData iData, CATCallback iId);
 
 // An object that can subscribe to the events of publishers; see CATCallbackManager.h. Its subscriptions end
 // with it.

@@ -13,7 +13,7 @@
 // A handle that is made from an object asks it for the interface and is null when the object has none. The
 // operator -> on a null handle raises the platform's null-handle error. Two handles are equal when the same
 // object stands behind both, whatever their interfaces.
-template <class Interface>
+template<class Interface>
 class CATHandle {
   public:
     constexpr CATHandle() noexcept = default;
@@ -23,7 +23,7 @@ class CATHandle {
     CATHandle(CATBaseUnknown* iObject) : _interface(Query(iObject)) {}
     CATHandle(const CATBaseUnknown* iObject) : CATHandle(const_cast<CATBaseUnknown*>(iObject)) {}
     CATHandle(Interface* iInterface) : _interface(iInterface) { Retain(); }
-    template <class Other>
+    template<class Other>
     CATHandle(const CATHandle<Other>& iOther) : _interface(Query(iOther.Object())) {}
     ~CATHandle() { Forget(); }
 
@@ -48,11 +48,11 @@ class CATHandle {
     // The object behind the handle without a reference; null for a null handle.
     CATBaseUnknown* Object() const { return _interface; }
 
-    template <class Other>
+    template<class Other>
     bool operator==(const CATHandle<Other>& iOther) const {
         return Same(Object(), iOther.Object());
     }
-    template <class Other>
+    template<class Other>
     bool operator!=(const CATHandle<Other>& iOther) const {
         return !Same(Object(), iOther.Object());
     }

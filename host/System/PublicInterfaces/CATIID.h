@@ -18,7 +18,9 @@ inline bool operator==(const CATGuid& iLeft, const CATGuid& iRight) {
     return iLeft.high == iRight.high && iLeft.low == iRight.low;
 }
 
-inline bool operator!=(const CATGuid& iLeft, const CATGuid& iRight) { return !(iLeft == iRight); }
+inline bool operator!=(const CATGuid& iLeft, const CATGuid& iRight) {
+    return !(iLeft == iRight);
+}
 
 // The identifier of the class or interface called iName; a null name counts as the empty one.
 CATGuid CATIidFromName(const char* iName);

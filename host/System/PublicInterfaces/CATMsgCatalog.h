@@ -10,8 +10,9 @@
 // language there; a key that a language lacks is taken from the English file.
 class CATMsgCatalog {
   public:
-    // The text of iKey in iCatalog with /p1, /p2 ... replaced by the iCount parameters; the key when catalogue or
-    // key are missing. A parameter that is not given leaves its place in the text as it is written there.
+    // The text of iKey in iCatalog with /p1, /p2 ... replaced by the iCount parameters; the key when
+    // catalogue or key are missing. A parameter that is not given leaves its place in the text as it is
+    // written there.
     static CATUnicodeString BuildMessage(const CATString& iCatalog, const CATString& iKey,
                                          const CATUnicodeString* iParameters = nullptr, int iCount = 0);
     // The same with a text to use instead when catalogue or key are missing.

@@ -8,7 +8,7 @@
 
 // The ordered list behind the list classes of the platform. Positions count from 1; reading or removing at a
 // position outside 1..Size() raises the platform's error and changes nothing.
-template <class Value>
+template<class Value>
 class CATOrderedList {
   public:
     int Size() const { return static_cast<int>(_values.size()); }

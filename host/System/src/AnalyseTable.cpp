@@ -74,7 +74,9 @@ int AnalyseTable::CountOf(const CATCommand& iOwner) {
                                           [](const Entry& iEntry) { return iEntry.method != nullptr; }));
 }
 
-int AnalyseTable::CountOfAll() { return liveEntries; }
+int AnalyseTable::CountOfAll() {
+    return liveEntries;
+}
 
 bool AnalyseTable::Matches(const Entry& iEntry, const CATCommand* iSender,
                            const CATNotification& iNotification) const {

@@ -26,7 +26,8 @@ class AnalyseTable {
     // Ends all entries by and on ioCommand, which is being destroyed.
     static void End(CATCommand& ioCommand);
     // Runs the callbacks of ioOwner that match. True when there was one.
-    static bool Run(CATCommand& ioOwner, CATCommand* iSender, CATCommand* iFrom, CATNotification& ioNotification);
+    static bool Run(CATCommand& ioOwner, CATCommand* iSender, CATCommand* iFrom,
+                    CATNotification& ioNotification);
     static int CountOf(const CATCommand& iOwner);
     static int CountOfAll();
 
@@ -41,7 +42,8 @@ class AnalyseTable {
 
     CATCommand* _owner = nullptr; // null once it is destroyed
     std::vector<Entry> _entries;
-    std::vector<CATCommand*> _listeners; // commands with entries on the owner; one may stand here several times
+    std::vector<CATCommand*>
+        _listeners; // commands with entries on the owner; one may stand here several times
     int _running = 0;
 };
 

@@ -8,11 +8,17 @@ const IID IID_CATBaseUnknown = CATIidFromName("CATBaseUnknown");
 
 CATMetaClass* CATBaseUnknown::meta_object = nullptr;
 
-CATBaseUnknown::CATBaseUnknown() { host::LiveObjects::Join(*this); }
+CATBaseUnknown::CATBaseUnknown() {
+    host::LiveObjects::Join(*this);
+}
 
-CATBaseUnknown::CATBaseUnknown(const CATBaseUnknown&) { host::LiveObjects::Join(*this); }
+CATBaseUnknown::CATBaseUnknown(const CATBaseUnknown&) {
+    host::LiveObjects::Join(*this);
+}
 
-CATBaseUnknown& CATBaseUnknown::operator=(const CATBaseUnknown&) { return *this; }
+CATBaseUnknown& CATBaseUnknown::operator=(const CATBaseUnknown&) {
+    return *this;
+}
 
 CATBaseUnknown::~CATBaseUnknown() {
     if (_publications != nullptr)
@@ -31,7 +37,9 @@ HRESULT CATBaseUnknown::QueryInterface(const IID& iInterface, void** oPointer) {
     return S_OK;
 }
 
-CATULong CATBaseUnknown::AddRef() { return ++_references; }
+CATULong CATBaseUnknown::AddRef() {
+    return ++_references;
+}
 
 CATULong CATBaseUnknown::Release() {
     const CATULong left = --_references;
@@ -40,13 +48,21 @@ CATULong CATBaseUnknown::Release() {
     return left;
 }
 
-HRESULT CATBaseUnknown::GetTypeInfoCount(unsigned int*) { return E_NOTIMPL; }
+HRESULT CATBaseUnknown::GetTypeInfoCount(unsigned int*) {
+    return E_NOTIMPL;
+}
 
-HRESULT CATBaseUnknown::GetTypeInfo(unsigned int, CATULong, void**) { return E_NOTIMPL; }
+HRESULT CATBaseUnknown::GetTypeInfo(unsigned int, CATULong, void**) {
+    return E_NOTIMPL;
+}
 
-HRESULT CATBaseUnknown::GetIDsOfNames(const IID&, char**, unsigned int, CATULong, long*) { return E_NOTIMPL; }
+HRESULT CATBaseUnknown::GetIDsOfNames(const IID&, char**, unsigned int, CATULong, long*) {
+    return E_NOTIMPL;
+}
 
-HRESULT CATBaseUnknown::Invoke(long, const IID&, CATULong, unsigned short, void*, void*) { return E_NOTIMPL; }
+HRESULT CATBaseUnknown::Invoke(long, const IID&, CATULong, unsigned short, void*, void*) {
+    return E_NOTIMPL;
+}
 
 CATBaseUnknown* CATBaseUnknown::QueryInterface(const char* iName) {
     void* found = nullptr;
@@ -55,23 +71,35 @@ CATBaseUnknown* CATBaseUnknown::QueryInterface(const char* iName) {
     return static_cast<CATBaseUnknown*>(found);
 }
 
-CATMetaClass* CATBaseUnknown::GetMetaObject() const { return MetaObject(); }
+CATMetaClass* CATBaseUnknown::GetMetaObject() const {
+    return MetaObject();
+}
 
-const char* CATBaseUnknown::IsA() const { return ClassName(); }
+const char* CATBaseUnknown::IsA() const {
+    return ClassName();
+}
 
-int CATBaseUnknown::IsAKindOf(const char* iClassName) const { return MetaObject()->IsAKindOf(iClassName); }
+int CATBaseUnknown::IsAKindOf(const char* iClassName) const {
+    return MetaObject()->IsAKindOf(iClassName);
+}
 
-CATBaseUnknown* CATBaseUnknown::GetImpl(int) const { return const_cast<CATBaseUnknown*>(this); }
+CATBaseUnknown* CATBaseUnknown::GetImpl(int) const {
+    return const_cast<CATBaseUnknown*>(this);
+}
 
 void CATBaseUnknown::SetImpl(CATBaseUnknown*) {}
 
-int CATBaseUnknown::IsNull() const { return 0; }
+int CATBaseUnknown::IsNull() const {
+    return 0;
+}
 
 int CATBaseUnknown::IsEqual(const CATBaseUnknown* iOther) const {
     return iOther != nullptr && GetImpl() == iOther->GetImpl() ? 1 : 0;
 }
 
-HRESULT CATBaseUnknown::ChangeComponentState(int, int, const void*) { return E_NOTIMPL; }
+HRESULT CATBaseUnknown::ChangeComponentState(int, int, const void*) {
+    return E_NOTIMPL;
+}
 
 CATMetaClass* CATBaseUnknown::MetaObject() {
     if (meta_object == nullptr)
@@ -79,8 +107,14 @@ CATMetaClass* CATBaseUnknown::MetaObject() {
     return meta_object;
 }
 
-const CLSID& CATBaseUnknown::ClassId() { return MetaObject()->GetClassId(); }
+const CLSID& CATBaseUnknown::ClassId() {
+    return MetaObject()->GetClassId();
+}
 
-const char* CATBaseUnknown::ClassName() { return "CATBaseUnknown"; }
+const char* CATBaseUnknown::ClassName() {
+    return "CATBaseUnknown";
+}
 
-CATBaseUnknown* CATBaseUnknown::CreateItself() { return nullptr; }
+CATBaseUnknown* CATBaseUnknown::CreateItself() {
+    return nullptr;
+}

@@ -20,7 +20,8 @@ CATCallback AddCallback(CATEventSubscriber* iSubscriber, CATBaseUnknown* iPublis
 }
 
 CATCallback AddCallback(CATEventSubscriber* iSubscriber, CATBaseUnknown* iPublisher,
-                        CATNotification* iNotification, CATSubscriberMethod iMethod, CATSubscriberData iData) {
+                        CATNotification* iNotification, CATSubscriberMethod iMethod,
+                        CATSubscriberData iData) {
     const char* event = iNotification == nullptr ? nullptr : iNotification->IsA();
     return AddCallback(iSubscriber, iPublisher, event, iMethod, iData);
 }

@@ -1,5 +1,6 @@
 #include "CATCommand.h"
 
+#include "ActiveCommand.h"
 #include "AnalyseTable.h"
 #include "Climb.h"
 #include "InternedNames.h"
@@ -9,8 +10,9 @@ CATImplementClass(CATCommand, Implementation, CATEventSubscriber, CATNull);
 
 namespace {
 
-host::AnalyseTable::Entry MakeEntry(CATCommand* iPublisher, CATNotification* iNotification, const char* iClass,
-                                    CATCommandMethod iMethod, CATCommandClientData iData) {
+host::AnalyseTable::Entry MakeEntry(CATCommand* iPublisher, CATNotification* iNotification,
+                                    const char* iClass, CATCommandMethod iMethod,
+                                    CATCommandClientData iData) {
     host::AnalyseTable::Entry entry;
     entry.publisher = iPublisher;
     entry.notification = iNotification;
@@ -27,13 +29,17 @@ CATCommand::CATCommand(CATCommand* iFather, const CATString& iName) : _name(iNam
 CATCommand::CATCommand(const CATCommand& iOther)
     : CATEventSubscriber(iOther), _name(iOther._name), _father(iOther._father) {}
 
-CATCommand& CATCommand::operator=(const CATCommand&) { return *this; }
+CATCommand& CATCommand::operator=(const CATCommand&) {
+    return *this;
+}
 
 CATCommand::~CATCommand() {
     if (host::Climb::Innermost() != nullptr)
         host::Climb::Forget(*this);
     if (_analyseTable != nullptr)
         host::AnalyseTable::End(*this);
+    if (host::ActiveCommand::Get() == this)
+        host::ActiveCommand::Set(nullptr);
     host::DelayedDestruction::Forget(*this);
 }
 
@@ -75,4 +81,6 @@ void CATCommand::RemoveAnalyseNotificationCB(CATCommand* iPublisher, const char*
         host::AnalyseTable::Remove(*this, MakeEntry(iPublisher, nullptr, iNotificationClass, nullptr, iData));
 }
 
-void CATCommand::RequestDelayedDestruction() { host::DelayedDestruction::Queue(*this); }
+void CATCommand::RequestDelayedDestruction() {
+    host::DelayedDestruction::Queue(*this);
+}

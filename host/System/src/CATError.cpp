@@ -57,11 +57,17 @@ CATUnicodeString CATError::GetNLSMessage() const {
     return message;
 }
 
-CATUnicodeString CATError::GetNLSRequest() const { return Text(".Request"); }
+CATUnicodeString CATError::GetNLSRequest() const {
+    return Text(".Request");
+}
 
-CATUnicodeString CATError::GetNLSDiagnostic() const { return Text(".Diagnostic"); }
+CATUnicodeString CATError::GetNLSDiagnostic() const {
+    return Text(".Diagnostic");
+}
 
-CATUnicodeString CATError::GetNLSAdvice() const { return Text(".Advice"); }
+CATUnicodeString CATError::GetNLSAdvice() const {
+    return Text(".Advice");
+}
 
 CATUnicodeString CATError::GetNLSSource() const {
     const CATUnicodeString source = Text(".Source");
@@ -89,4 +95,6 @@ CATError* CATError::CATGetLastError(HRESULT iResult, CATError*) {
     return error;
 }
 
-void CATError::CATCleanLastError() { host::LastError::Replace(nullptr); }
+void CATError::CATCleanLastError() {
+    host::LastError::Replace(nullptr);
+}

@@ -8,6 +8,10 @@ CATEventSubscriber::CATEventSubscriber() = default;
 
 CATEventSubscriber::CATEventSubscriber(const CATEventSubscriber& iOther) : CATBaseUnknown(iOther) {}
 
-CATEventSubscriber& CATEventSubscriber::operator=(const CATEventSubscriber&) { return *this; }
+CATEventSubscriber& CATEventSubscriber::operator=(const CATEventSubscriber&) {
+    return *this;
+}
 
-CATEventSubscriber::~CATEventSubscriber() { host::SubscriptionChain::EndAll(*this); }
+CATEventSubscriber::~CATEventSubscriber() {
+    host::SubscriptionChain::EndAll(*this);
+}

@@ -15,7 +15,8 @@ std::map<std::string, std::unique_ptr<CATMetaClass>>& Registry() {
 
 } // namespace
 
-CATMetaClass::CATMetaClass(const char* iName, CATTypeOfClass iType, CATMetaClass* iBase, const char* iExtended)
+CATMetaClass::CATMetaClass(const char* iName, CATTypeOfClass iType, CATMetaClass* iBase,
+                           const char* iExtended)
     : _name(iName), _type(iType), _base(iBase), _extended(iExtended), _id(CATIidFromName(iName)) {}
 
 CATMetaClass* CATMetaClass::Find(const char* iName, CATTypeOfClass iType, CATMetaClass* iBase,

@@ -20,4 +20,6 @@ void* CATNotification::operator new(std::size_t iSize) noexcept {
     return ::operator new(iSize, std::nothrow);
 }
 
-void CATNotification::operator delete(void* iMemory) noexcept { ::operator delete(iMemory); }
+void CATNotification::operator delete(void* iMemory) noexcept {
+    ::operator delete(iMemory);
+}

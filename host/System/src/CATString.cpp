@@ -22,10 +22,14 @@ bool operator==(const CATString& iLeft, const CATString& iRight) {
     return iLeft.GetLengthInChar() == iRight.GetLengthInChar() && iLeft == iRight.ConvertToChar();
 }
 
-bool operator!=(const CATString& iLeft, const CATString& iRight) { return !(iLeft == iRight); }
+bool operator!=(const CATString& iLeft, const CATString& iRight) {
+    return !(iLeft == iRight);
+}
 
 bool operator==(const CATString& iLeft, const char* iRight) {
     return std::strcmp(iLeft.ConvertToChar(), iRight == nullptr ? "" : iRight) == 0;
 }
 
-bool operator!=(const CATString& iLeft, const char* iRight) { return !(iLeft == iRight); }
+bool operator!=(const CATString& iLeft, const char* iRight) {
+    return !(iLeft == iRight);
+}

@@ -9,7 +9,9 @@
 
 namespace {
 
-bool IsContinuation(char iByte) { return (static_cast<unsigned char>(iByte) & 0xC0U) == 0x80U; }
+bool IsContinuation(char iByte) {
+    return (static_cast<unsigned char>(iByte) & 0xC0U) == 0x80U;
+}
 
 void AppendCodePoint(std::string& ioText, unsigned long iCode) {
     const auto put = [&ioText](unsigned long iByte) { ioText.push_back(static_cast<char>(iByte)); };
@@ -31,7 +33,7 @@ void AppendCodePoint(std::string& ioText, unsigned long iCode) {
 }
 
 // What printf makes of the number, with the point of the "C" locale.
-template <class Number>
+template<class Number>
 std::string Print(Number iNumber, const char* iFormat) {
     const int length = std::snprintf(nullptr, 0, iFormat, iNumber);
     if (length <= 0)
@@ -143,10 +145,14 @@ bool operator==(const CATUnicodeString& iLeft, const CATUnicodeString& iRight) {
     return iLeft.GetLengthInByte() == iRight.GetLengthInByte() && iLeft == iRight.ConvertToChar();
 }
 
-bool operator!=(const CATUnicodeString& iLeft, const CATUnicodeString& iRight) { return !(iLeft == iRight); }
+bool operator!=(const CATUnicodeString& iLeft, const CATUnicodeString& iRight) {
+    return !(iLeft == iRight);
+}
 
 bool operator==(const CATUnicodeString& iLeft, const char* iRight) {
     return std::strcmp(iLeft.ConvertToChar(), iRight == nullptr ? "" : iRight) == 0;
 }
 
-bool operator!=(const CATUnicodeString& iLeft, const char* iRight) { return !(iLeft == iRight); }
+bool operator!=(const CATUnicodeString& iLeft, const char* iRight) {
+    return !(iLeft == iRight);
+}

@@ -10,7 +10,9 @@ namespace host {
 
 namespace {
 
-bool IsKeyCharacter(char iCharacter) { return iCharacter != '=' && iCharacter != '"' && iCharacter != ';'; }
+bool IsKeyCharacter(char iCharacter) {
+    return iCharacter != '=' && iCharacter != '"' && iCharacter != ';';
+}
 
 // A cursor over the content of one file that counts lines.
 class Reader {
@@ -136,7 +138,8 @@ class Reader {
 
 } // namespace
 
-bool CatalogFile::Read(const std::string& iPath, CatalogTexts& oTexts, std::vector<CatalogProblem>& ioProblems) {
+bool CatalogFile::Read(const std::string& iPath, CatalogTexts& oTexts,
+                       std::vector<CatalogProblem>& ioProblems) {
     std::error_code ignored;
     if (!std::filesystem::is_regular_file(iPath, ignored))
         return false;

@@ -17,8 +17,8 @@ typedef std::unordered_map<std::string, std::string> CatalogTexts;
 //     Key = "text, \"quoted\", with \n a line break, also over
 //     several lines";
 //
-// What does not follow the form is reported with its line and left out; reading goes on after the next semicolon
-// or at the next line. The first of two equal keys counts, and the second is reported.
+// What does not follow the form is reported with its line and left out; reading goes on after the next
+// semicolon or at the next line. The first of two equal keys counts, and the second is reported.
 class CatalogFile {
   public:
     // False when the file cannot be read.

@@ -1,5 +1,6 @@
 #include "Climb.h"
 
+#include "ActiveCommand.h"
 #include "AnalyseTable.h"
 
 namespace host {
@@ -10,9 +11,13 @@ namespace {
 int undelivered = 0;
 }
 
-Climb::Climb(CATCommand& iSender) : _sender(&iSender), _from(&iSender), _outer(_innermost) { _innermost = this; }
+Climb::Climb(CATCommand& iSender) : _sender(&iSender), _from(&iSender), _outer(_innermost) {
+    _innermost = this;
+}
 
-Climb::~Climb() { _innermost = _outer; }
+Climb::~Climb() {
+    _innermost = _outer;
+}
 
 void Climb::Run(CATCommand& iTarget, CATNotification& ioNotification) {
     _next = &iTarget;
@@ -21,11 +26,22 @@ void Climb::Run(CATCommand& iTarget, CATNotification& ioNotification) {
     while (_next != nullptr) {
         _here = _next;
         _next = _here->_father;
+        _hasMetActive = _hasMetActive || _here == ActiveCommand::Get();
         if (Visit(*_here, ioNotification))
             return;
         _from = _here;
+        if (_next == nullptr && !_isSelectorAsked)
+            AskSelector();
     }
     ++undelivered;
+}
+
+// At the top the active command has its turn, unless it has had it on the way.
+void Climb::AskSelector() {
+    _isSelectorAsked = true;
+    CATCommand* const active = ActiveCommand::Get();
+    if (active != nullptr && !_hasMetActive)
+        _next = active;
 }
 
 // True when ioCommand ends the climb.
@@ -50,8 +66,12 @@ void Climb::Forget(const CATCommand& iCommand) {
     }
 }
 
-int Climb::Undelivered() { return undelivered; }
+int Climb::Undelivered() {
+    return undelivered;
+}
 
-void Climb::ResetUndelivered() { undelivered = 0; }
+void Climb::ResetUndelivered() {
+    undelivered = 0;
+}
 
 } // namespace host

@@ -24,12 +24,15 @@ class Climb {
     static void ResetUndelivered();
 
   private:
+    void AskSelector();
     bool Visit(CATCommand& ioCommand, CATNotification& ioNotification);
 
     CATCommand* _sender;         // null once it is destroyed
     CATCommand* _from;           // who passed the notification on; null once it is destroyed
     CATCommand* _here = nullptr; // where the notification is; null once it is destroyed
     CATCommand* _next = nullptr; // where it goes next
+    bool _isSelectorAsked = false;
+    bool _hasMetActive = false;
     Climb* _outer;
     static Climb* _innermost;
 };

@@ -7,9 +7,13 @@
 
 namespace host {
 
-int CommandInspection::UndeliveredNotifications() { return Climb::Undelivered(); }
+int CommandInspection::UndeliveredNotifications() {
+    return Climb::Undelivered();
+}
 
-int CommandInspection::Subscriptions() { return SubscriptionIds::Live(); }
+int CommandInspection::Subscriptions() {
+    return SubscriptionIds::Live();
+}
 
 int CommandInspection::SubscriptionsOn(const CATBaseUnknown& iPublisher) {
     const Publications* const publications = Publications::Find(iPublisher);
@@ -22,15 +26,21 @@ int CommandInspection::SubscriptionsOn(const CATBaseUnknown& iPublisher) {
     return count;
 }
 
-int CommandInspection::AnalyseCallbacks(const CATCommand& iCommand) { return AnalyseTable::CountOf(iCommand); }
+int CommandInspection::AnalyseCallbacks(const CATCommand& iCommand) {
+    return AnalyseTable::CountOf(iCommand);
+}
 
-int CommandInspection::AnalyseCallbacks() { return AnalyseTable::CountOfAll(); }
+int CommandInspection::AnalyseCallbacks() {
+    return AnalyseTable::CountOfAll();
+}
 
 CATCommand* CommandInspection::OriginalSender() {
     const Climb* const climb = Climb::Innermost();
     return climb == nullptr ? nullptr : climb->Sender();
 }
 
-void CommandInspection::Reset() { Climb::ResetUndelivered(); }
+void CommandInspection::Reset() {
+    Climb::ResetUndelivered();
+}
 
 } // namespace host

@@ -14,7 +14,9 @@ std::deque<CATCommand*>& Waiting() {
 
 } // namespace
 
-int DelayedDestruction::Pending() { return static_cast<int>(Waiting().size()); }
+int DelayedDestruction::Pending() {
+    return static_cast<int>(Waiting().size());
+}
 
 void DelayedDestruction::Queue(CATCommand& ioCommand) {
     if (ioCommand._isDoomed)

@@ -10,7 +10,9 @@ namespace {
 void (*flushFunction)() = nullptr;
 }
 
-void EventScope::SetFlush(void (*iFlush)()) { flushFunction = iFlush; }
+void EventScope::SetFlush(void (*iFlush)()) {
+    flushFunction = iFlush;
+}
 
 void EventScope::Flush() {
     if (flushFunction != nullptr)

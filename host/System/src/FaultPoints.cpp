@@ -20,18 +20,26 @@ Plan plan;
 
 } // namespace
 
-void FaultPoints::StartCounting() { FailCall(0); }
+void FaultPoints::StartCounting() {
+    FailCall(0);
+}
 
 void FaultPoints::FailCall(int iNumber, const std::string& iName) {
     plan = Plan{iNumber, iName, 0, {}};
     _watching = true;
 }
 
-void FaultPoints::Stop() { _watching = false; }
+void FaultPoints::Stop() {
+    _watching = false;
+}
 
-int FaultPoints::Passed() { return plan.passed; }
+int FaultPoints::Passed() {
+    return plan.passed;
+}
 
-std::map<std::string, int> FaultPoints::PassedByName() { return plan.passedByName; }
+std::map<std::string, int> FaultPoints::PassedByName() {
+    return plan.passedByName;
+}
 
 bool FaultPoints::Decide(const char* iName) {
     ++plan.passed;

@@ -43,6 +43,8 @@ void FunctionRegistry::Remove(const std::string& iLibrary, const std::string& iE
         library->second.erase(iEntry);
 }
 
-void FunctionRegistry::Clear() { Libraries().clear(); }
+void FunctionRegistry::Clear() {
+    Libraries().clear();
+}
 
 } // namespace host

@@ -6,7 +6,9 @@ namespace {
 CATError* lastError = nullptr;
 }
 
-CATError* LastError::Get() { return lastError; }
+CATError* LastError::Get() {
+    return lastError;
+}
 
 void LastError::Replace(CATError* iError) {
     CATError* const previous = lastError;

@@ -66,8 +66,7 @@ const CatalogTexts& TextsOf(const std::string& iLanguage, const std::string& iNa
     if (known != Current().files.end())
         return known->second;
     CatalogTexts& texts = Current().files[file];
-    ReadFrom(Current().folders, file, texts);
-    ReadFrom(EnvironmentFolders(), file, texts);
+    ReadFrom(MessageCatalogs::Folders(), file, texts);
     return texts;
 }
 
@@ -85,6 +84,13 @@ void MessageCatalogs::AddFolder(const std::string& iFolder) {
     ForgetFiles();
 }
 
+std::vector<std::string> MessageCatalogs::Folders() {
+    std::vector<std::string> folders = Current().folders;
+    for (const std::string& folder : EnvironmentFolders())
+        folders.push_back(folder);
+    return folders;
+}
+
 void MessageCatalogs::SetLanguage(const std::string& iLanguage) {
     if (Current().language == iLanguage)
         return;
@@ -92,7 +98,9 @@ void MessageCatalogs::SetLanguage(const std::string& iLanguage) {
     ForgetFiles();
 }
 
-const std::string& MessageCatalogs::Language() { return Current().language; }
+const std::string& MessageCatalogs::Language() {
+    return Current().language;
+}
 
 std::optional<std::string> MessageCatalogs::Text(const std::string& iCatalog, const std::string& iKey) {
     if (FaultPoints::Fails("message look-up"))
@@ -137,9 +145,13 @@ std::string MessageCatalogs::Fill(const std::string& iText, const std::vector<st
     return filled;
 }
 
-const std::vector<CatalogProblem>& MessageCatalogs::Problems() { return Current().problems; }
+const std::vector<CatalogProblem>& MessageCatalogs::Problems() {
+    return Current().problems;
+}
 
-const std::vector<std::string>& MessageCatalogs::Missing() { return Current().missing; }
+const std::vector<std::string>& MessageCatalogs::Missing() {
+    return Current().missing;
+}
 
 void MessageCatalogs::RecordMissing(const std::string& iText) {
     std::vector<std::string>& missing = Current().missing;
@@ -147,7 +159,9 @@ void MessageCatalogs::RecordMissing(const std::string& iText) {
         missing.push_back(iText);
 }
 
-unsigned MessageCatalogs::Generation() { return generation; }
+unsigned MessageCatalogs::Generation() {
+    return generation;
+}
 
 void MessageCatalogs::Reset() {
     Current() = State();

@@ -14,11 +14,17 @@ std::vector<std::string>& Texts() {
 
 } // namespace
 
-void Misuse::Record(const std::string& iText) { Texts().push_back(iText); }
+void Misuse::Record(const std::string& iText) {
+    Texts().push_back(iText);
+}
 
-const std::vector<std::string>& Misuse::Recorded() { return Texts(); }
+const std::vector<std::string>& Misuse::Recorded() {
+    return Texts();
+}
 
-void Misuse::Clear() { Texts().clear(); }
+void Misuse::Clear() {
+    Texts().clear();
+}
 
 void NotImplemented(const char* iOperation) {
     std::fprintf(stderr, "%s is declared but not implemented\n", iOperation);

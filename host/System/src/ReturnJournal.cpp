@@ -25,13 +25,17 @@ void ReturnJournal::Add(int iKind, const char* iFile, int iLine) {
     ++lastCall.count;
 }
 
-const CATError* ErrorInspection::LastError() { return host::LastError::Get(); }
+const CATError* ErrorInspection::LastError() {
+    return host::LastError::Get();
+}
 
 ReturnRecord ErrorInspection::LastReturn() {
     return ReturnRecord{lastCall.kind, lastCall.file, lastCall.line};
 }
 
-int ErrorInspection::ReturnCount() { return lastCall.count; }
+int ErrorInspection::ReturnCount() {
+    return lastCall.count;
+}
 
 ReturnRecord ErrorInspection::Origin(const CATError& iError) {
     return ReturnRecord{iError._sourceLine == 0 ? 0 : 2, iError._sourceFile.ConvertToChar(),

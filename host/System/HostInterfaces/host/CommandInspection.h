@@ -20,6 +20,9 @@ class CommandInspection {
     // While a callback or AnalyseNotification runs: the command that sent the notification; null once it is
     // destroyed, and outside a climb.
     static CATCommand* OriginalSender();
+    // The command that hears the notifications nobody below has answered. Not owned; null for none.
+    static void SetActiveCommand(CATCommand* iCommand);
+    static CATCommand* ActiveCommand();
     static void Reset();
 };
 

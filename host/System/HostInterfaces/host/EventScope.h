@@ -7,8 +7,8 @@ namespace host {
 //
 //     { host::EventScope event; button.SendNotification(...); }
 //
-// Scopes nest. When the outermost one ends, watchers hear what changed and the objects whose delayed destruction
-// was asked for are destroyed.
+// Scopes nest. When the outermost one ends, watchers hear what changed and the objects whose delayed
+// destruction was asked for are destroyed.
 class EventScope {
   public:
     EventScope() { ++_depth; }

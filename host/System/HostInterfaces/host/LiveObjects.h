@@ -11,7 +11,8 @@ namespace host {
 
 // All objects that are alive, for leak checks: compare CountByClass() before and after.
 //
-// An object joins when it is constructed and leaves when it is destroyed, whether it lives on the heap or not.
+// An object joins when it is constructed and leaves when it is destroyed, whether it lives on the heap or
+// not.
 class LiveObjects {
   public:
     // Number of live objects whose class is exactly iClassName.

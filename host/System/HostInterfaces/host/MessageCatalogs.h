@@ -23,6 +23,8 @@ struct CatalogProblem {
 class MessageCatalogs {
   public:
     static void AddFolder(const std::string& iFolder);
+    // All folders in the order of search.
+    static std::vector<std::string> Folders();
     static void SetLanguage(const std::string& iLanguage);
     static const std::string& Language();
 

@@ -1,0 +1,76 @@
+#ifndef host_DialogUser_H
+#define host_DialogUser_H
+
+#include "CATDlgDialog.h"
+#include "host/Outcome.h"
+
+#include <string>
+#include <vector>
+
+class CATDlgCheckButton;
+class CATDlgCombo;
+class CATDlgEditor;
+class CATDlgMultiList;
+class CATDlgPushButton;
+class CATDlgRadioButton;
+class CATDlgSpinner;
+class CATDlgTabPage;
+
+namespace host {
+
+// A person in front of the dialogs. This is the only place that acts as one: tests, replayed sessions and
+// real windows all go through it.
+//
+//     const Outcome outcome = DialogUser::Choose(combo, 2);
+//     if (!outcome) std::cerr << outcome.reason;
+//
+// Each operation is one event of the main loop: notifications are sent at once, delayed destructions run when
+// the operation ends. It is refused, and nothing happens, where a person could not do it: the widget or a
+// parent is hidden or disabled, a page is behind another, a modal window or a message is in front, the line
+// is not there.
+class DialogUser {
+  public:
+    static Outcome Press(CATDlgPushButton& ioButton);
+    // A standard button of a dialog: CATDlgWndOK, CATDlgWndCANCEL, CATDlgWndAPPLY or CATDlgWndHELP.
+    static Outcome PressStandardButton(CATDlgDialog& ioDialog, CATULong iButton);
+    // Enter presses the default button, where there is one; Escape presses Cancel or else closes the window.
+    static Outcome PressEnter(CATDlgDialog& ioDialog);
+    static Outcome PressEscape(CATDlgDialog& ioDialog);
+
+    // Opens the list of a combo; choosing a line does not need it.
+    static Outcome OpenList(CATDlgCombo& ioCombo);
+    static Outcome Choose(CATDlgCombo& ioCombo, int iLine);
+    static Outcome ChooseText(CATDlgCombo& ioCombo, const std::string& iText);
+
+    // A radio button cannot be unchecked by hand. A button that is in the wanted state already stays silent.
+    static Outcome Check(CATDialog& ioButton);
+    static Outcome Uncheck(CATDialog& ioButton);
+
+    // Replaces the text of an editor, and leaves the field.
+    static Outcome Type(CATDlgEditor& ioEditor, const std::string& iText);
+    static Outcome LeaveField(CATDlgEditor& ioEditor);
+
+    static Outcome Spin(CATDlgSpinner& ioSpinner, int iSteps);
+    static Outcome TypeValue(CATDlgSpinner& ioSpinner, const std::string& iText);
+
+    // Replaces the selection of a list.
+    static Outcome Select(CATDlgMultiList& ioList, const std::vector<int>& iLines);
+    // Double click on a cell: selects the line, activates it, then the cell.
+    static Outcome Activate(CATDlgMultiList& ioList, int iLine, int iColumn);
+
+    static Outcome ShowPage(CATDlgTabPage& ioPage);
+
+    static Outcome Move(CATDlgWindow& ioWindow, int iX, int iY);
+    static Outcome Resize(CATDlgWindow& ioWindow, int iHeight, int iWidth);
+    // Presses the window's close box. The window stays until the program hides or destroys it.
+    static Outcome Close(CATDlgWindow& ioWindow);
+
+    // Whether a person could use the widget at all, with the reason if not.
+    static Outcome CanUse(const CATDialog& iWidget);
+    // Whether a person sees the widget: it and all its parents are shown, and its page is in front.
+    static bool CanSee(const CATDialog& iWidget);
+};
+
+} // namespace host
+
+#endif

@@ -1,0 +1,24 @@
+#ifndef CATApplicationFrame_H
+#define CATApplicationFrame_H
+
+class CATDialog;
+
+namespace host {
+class Application;
+}
+
+// The running application.
+class CATApplicationFrame {
+  public:
+    // Never null; not owned by the caller.
+    static CATApplicationFrame* GetFrame();
+    // The main window, which is the parent of the dialogs. Not owned by the caller.
+    CATDialog* GetMainWindow() const { return _mainWindow; }
+
+  private:
+    friend class host::Application;
+    CATApplicationFrame() = default;
+    CATDialog* _mainWindow = nullptr;
+};
+
+#endif

@@ -1,0 +1,14 @@
+#ifndef CATDlgTabPage_H
+#define CATDlgTabPage_H
+
+#include "CATDlgBox.h"
+
+// One page of a tab container. Its title is the text of the tab; a hidden page has no tab.
+class CATDlgTabPage : public CATDlgBox {
+    CATDeclareClass;
+
+  public:
+    CATDlgTabPage(CATDialog* iParent, const CATString& iName, CATDlgStyle iStyle = 0);
+};
+
+#endif

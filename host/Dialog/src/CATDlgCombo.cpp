@@ -1,0 +1,84 @@
+#include "CATDlgCombo.h"
+
+#include "WidgetEvents.h"
+#include "host/DialogObserver.h"
+
+#include <algorithm>
+
+CATImplementClass(CATDlgCombo, Implementation, CATDlgControl, CATNull);
+
+CATDlgCombo::CATDlgCombo(CATDialog* iParent, const CATString& iName, CATDlgStyle iStyle)
+    : CATDlgControl(iParent, iName, iStyle) {}
+
+void CATDlgCombo::SetLine(const CATUnicodeString& iText, int iLine, CATULong iMode) {
+    const int count = GetLineCount();
+    const bool isAdded = iMode == CATDlgDataAdd;
+    if (isAdded && (iLine == -1 || iLine == count)) {
+        _lines.push_back(iText);
+    } else if (iLine < 0 || iLine >= count) {
+        return;
+    } else if (isAdded) {
+        _lines.insert(_lines.begin() + iLine, iText);
+        if (_selected >= iLine)
+            ++_selected;
+    } else {
+        _lines[static_cast<std::size_t>(iLine)] = iText;
+    }
+    NoteChange(host::ChangeContent);
+}
+
+void CATDlgCombo::GetLine(CATUnicodeString& oText, int iLine) const {
+    if (iLine >= 0 && iLine < GetLineCount())
+        oText = _lines[static_cast<std::size_t>(iLine)];
+    else
+        oText = CATUnicodeString();
+}
+
+void CATDlgCombo::ClearLine(int iLine) {
+    if (iLine == -1) {
+        _lines.clear();
+        _selected = -1;
+    } else if (iLine >= 0 && iLine < GetLineCount()) {
+        _lines.erase(_lines.begin() + iLine);
+        if (_selected == iLine)
+            _selected = -1;
+        else if (_selected > iLine)
+            --_selected;
+    } else {
+        return;
+    }
+    NoteChange(host::ChangeContent | host::ChangeSelection);
+}
+
+void CATDlgCombo::SetSelect(int iLine, int iNotify) {
+    if (iLine < 0 || iLine >= GetLineCount())
+        return;
+    _selected = iLine;
+    NoteChange(host::ChangeSelection);
+    if (iNotify == CATDlgWithNotification)
+        SendEvent(GetComboSelectNotification());
+}
+
+void CATDlgCombo::SetSelect(const CATUnicodeString& iText, int iNotify) {
+    const auto found = std::find(_lines.begin(), _lines.end(), iText);
+    if (found != _lines.end())
+        SetSelect(static_cast<int>(found - _lines.begin()), iNotify);
+}
+
+void CATDlgCombo::SetVisibleTextHeight(int iLines) {
+    _visibleHeight = iLines;
+    NoteChange(host::ChangeLayout);
+}
+
+void CATDlgCombo::SetVisibleTextWidth(int iCharacters) {
+    _visibleWidth = iCharacters;
+    NoteChange(host::ChangeLayout);
+}
+
+CATNotification* CATDlgCombo::GetComboSelectNotification() {
+    return Event<CATDlgComboSelectNotification>();
+}
+
+CATNotification* CATDlgCombo::GetComboDropNotification() {
+    return Event<CATDlgComboDropNotification>();
+}

@@ -1,0 +1,231 @@
+#include "host/LayoutPlan.h"
+
+#include "CATDialog.h"
+#include "CATDlgTabContainer.h"
+#include "CATDlgWindow.h"
+#include "host/Inspector.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+typedef Inspector::TabSpan TabSpan;
+
+// One direction of the arrangement: columns from vertical lines, or rows from horizontal ones.
+class Axis {
+  public:
+    // Block of cells of one child, and whether its two sides are tied.
+    struct Block {
+        int first = 0;
+        int span = 1;
+        bool leading = true;
+        bool trailing = false;
+    };
+
+    explicit Axis(TabSpan (*iSpanOf)(const CATDialog&)) : _spanOf(iSpanOf) {}
+
+    bool IsAttached(const CATDialog& iChild) const {
+        const TabSpan span = _spanOf(iChild);
+        return span.hasLeading || span.hasTrailing;
+    }
+
+    void CollectLines(const std::vector<CATDialog*>& iChildren) {
+        for (const CATDialog* child : iChildren) {
+            const TabSpan span = _spanOf(*child);
+            if (span.hasLeading)
+                _lines.push_back(span.leading);
+            if (span.hasTrailing)
+                _lines.push_back(span.trailing);
+        }
+        std::sort(_lines.begin(), _lines.end());
+        _lines.erase(std::unique(_lines.begin(), _lines.end()), _lines.end());
+    }
+
+    // The block of an attached child.
+    Block PlaceAttached(const CATDialog& iChild) {
+        const TabSpan span = _spanOf(iChild);
+        Block block;
+        block.leading = span.hasLeading && !span.isCentred;
+        block.trailing = span.hasTrailing;
+        if (span.hasLeading) {
+            block.first = LineIndex(span.leading);
+            block.span = span.hasTrailing ? std::max(1, LineIndex(span.trailing) - block.first) : 1;
+        } else {
+            block.first = std::max(0, LineIndex(span.trailing) - 1);
+        }
+        Use(block, span.stretches);
+        return block;
+    }
+
+    // The next free cell, for a child that is not attached.
+    Block PlaceBehind() {
+        Block block;
+        block.first = Count();
+        Use(block, false);
+        return block;
+    }
+
+    // The first cell, for a child that shares it with its siblings.
+    Block PlaceFirst() {
+        const Block block;
+        Use(block, false);
+        return block;
+    }
+
+    int Count() const { return static_cast<int>(_stretches.size()); }
+    const std::vector<bool>& Stretches() const { return _stretches; }
+
+  private:
+    int LineIndex(int iTab) const {
+        return static_cast<int>(std::lower_bound(_lines.begin(), _lines.end(), iTab) - _lines.begin());
+    }
+
+    void Use(const Block& iBlock, bool iStretches) {
+        const std::size_t end = static_cast<std::size_t>(iBlock.first + iBlock.span);
+        if (_stretches.size() < end)
+            _stretches.resize(end, false);
+        if (iStretches)
+            _stretches[end - 1] = true;
+    }
+
+    TabSpan (*_spanOf)(const CATDialog&);
+    std::vector<int> _lines;
+    std::vector<bool> _stretches; // one entry a cell
+};
+
+std::vector<CATDialog*> ShownChildren(const CATDialog& iContainer) {
+    std::vector<CATDialog*> children;
+    for (CATDialog* child = Inspector::FirstChild(iContainer); child != nullptr;
+         child = Inspector::NextSibling(*child))
+        if (child->GetVisibility() == CATDlgShow && dynamic_cast<const CATDlgWindow*>(child) == nullptr)
+            children.push_back(child);
+    return children;
+}
+
+unsigned int SidesOf(const Axis::Block& iColumns, const Axis::Block& iRows) {
+    unsigned int sides = 0;
+    sides |= iColumns.leading ? CATGRID_LEFT : 0U;
+    sides |= iColumns.trailing ? CATGRID_RIGHT : 0U;
+    sides |= iRows.leading ? CATGRID_TOP : 0U;
+    sides |= iRows.trailing ? CATGRID_BOTTOM : 0U;
+    return sides;
+}
+
+// The cell that a child without attachment gets in one direction. A child that is attached in the other
+// direction goes behind; one without any attachment follows the container's default orientation.
+Axis::Block PlaceFree(Axis& ioAxis, bool iIsAttachedAcross, bool iRunsAlong) {
+    return iIsAttachedAcross || iRunsAlong ? ioAxis.PlaceBehind() : ioAxis.PlaceFirst();
+}
+
+LayoutPlan PlanTabulations(const CATDialog& iContainer, const std::vector<CATDialog*>& iChildren) {
+    Axis columns(&Inspector::ColumnsOf);
+    Axis rows(&Inspector::RowsOf);
+    columns.CollectLines(iChildren);
+    rows.CollectLines(iChildren);
+    std::vector<Axis::Block> columnBlocks(iChildren.size());
+    std::vector<Axis::Block> rowBlocks(iChildren.size());
+    for (std::size_t index = 0; index < iChildren.size(); ++index) {
+        if (columns.IsAttached(*iChildren[index]))
+            columnBlocks[index] = columns.PlaceAttached(*iChildren[index]);
+        if (rows.IsAttached(*iChildren[index]))
+            rowBlocks[index] = rows.PlaceAttached(*iChildren[index]);
+    }
+    const bool isHorizontal = Inspector::DefaultOrientation(iContainer) == Horizontal;
+    LayoutPlan plan;
+    plan.cells.reserve(iChildren.size());
+    for (std::size_t index = 0; index < iChildren.size(); ++index) {
+        CATDialog* const child = iChildren[index];
+        const bool hasColumns = columns.IsAttached(*child);
+        const bool hasRows = rows.IsAttached(*child);
+        if (!hasColumns)
+            columnBlocks[index] = PlaceFree(columns, hasRows, isHorizontal);
+        if (!hasRows)
+            rowBlocks[index] = PlaceFree(rows, hasColumns, !isHorizontal);
+        const Axis::Block& column = columnBlocks[index];
+        const Axis::Block& row = rowBlocks[index];
+        plan.cells.push_back(
+            Cell{child, row.first, column.first, row.span, column.span, SidesOf(column, row)});
+    }
+    plan.rows = rows.Count();
+    plan.columns = columns.Count();
+    plan.rowStretches = rows.Stretches();
+    plan.columnStretches = columns.Stretches();
+    return plan;
+}
+
+LayoutPlan PlanGrid(const CATDialog& iContainer, const std::vector<CATDialog*>& iChildren) {
+    LayoutPlan plan;
+    std::vector<CATDialog*> unplaced;
+    for (CATDialog* child : iChildren) {
+        if (!Inspector::HasGridConstraints(*child)) {
+            unplaced.push_back(child);
+            continue;
+        }
+        const CATDlgGridConstraints place = Inspector::GridConstraints(*child);
+        Cell cell{child,
+                  std::max<int>(0, place.Row),
+                  std::max<int>(0, place.Column),
+                  std::max<int>(1, place.V_Span),
+                  std::max<int>(1, place.H_Span),
+                  place.Justification};
+        plan.rows = std::max(plan.rows, cell.row + cell.rowSpan);
+        plan.columns = std::max(plan.columns, cell.column + cell.columnSpan);
+        plan.cells.push_back(cell);
+    }
+    for (CATDialog* child : unplaced) {
+        plan.cells.push_back(Cell{child, plan.rows++, 0, 1, 1, CATGRID_LEFT | CATGRID_TOP});
+        plan.columns = std::max(plan.columns, 1);
+    }
+    for (int row = 0; row < plan.rows; ++row)
+        plan.rowStretches.push_back(Inspector::IsGridRowResizable(iContainer, row));
+    for (int column = 0; column < plan.columns; ++column)
+        plan.columnStretches.push_back(Inspector::IsGridColumnResizable(iContainer, column));
+    return plan;
+}
+
+// The pages of a tab container lie behind one another.
+LayoutPlan PlanPages(const std::vector<CATDialog*>& iPages) {
+    LayoutPlan plan;
+    plan.rows = 1;
+    plan.columns = 1;
+    plan.rowStretches = {true};
+    plan.columnStretches = {true};
+    for (CATDialog* page : iPages)
+        plan.cells.push_back(Cell{page, 0, 0, 1, 1, CATGRID_4SIDES});
+    return plan;
+}
+
+} // namespace
+
+const Cell* LayoutPlan::CellOf(const CATDialog& iChild) const {
+    const auto found = std::find_if(cells.begin(), cells.end(),
+                                    [&iChild](const Cell& iCell) { return iCell.child == &iChild; });
+    return found == cells.end() ? nullptr : &*found;
+}
+
+bool LayoutPlan::IsLeftOf(const CATDialog& iLeft, const CATDialog& iRight) const {
+    const Cell* const left = CellOf(iLeft);
+    const Cell* const right = CellOf(iRight);
+    return left != nullptr && right != nullptr && left->column + left->columnSpan <= right->column;
+}
+
+bool LayoutPlan::IsAbove(const CATDialog& iUpper, const CATDialog& iLower) const {
+    const Cell* const upper = CellOf(iUpper);
+    const Cell* const lower = CellOf(iLower);
+    return upper != nullptr && lower != nullptr && upper->row + upper->rowSpan <= lower->row;
+}
+
+LayoutPlan PlanLayout(const CATDialog& iContainer) {
+    const std::vector<CATDialog*> children = ShownChildren(iContainer);
+    if (children.empty())
+        return LayoutPlan();
+    if (dynamic_cast<const CATDlgTabContainer*>(&iContainer) != nullptr)
+        return PlanPages(children);
+    if ((Inspector::Style(iContainer) & CATDlgGridLayout) != 0)
+        return PlanGrid(iContainer, children);
+    return PlanTabulations(iContainer, children);
+}
+
+} // namespace host

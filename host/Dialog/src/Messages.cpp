@@ -1,0 +1,83 @@
+#include "host/Messages.h"
+
+#include "CATDlgDialog.h"
+#include "host/EventScope.h"
+
+#include <deque>
+
+namespace host {
+
+namespace {
+
+struct State {
+    std::vector<Message> journal;
+    std::deque<int> answers;
+    MessageFrontEnd* frontEnd = nullptr;
+    int waiting = 0;
+};
+
+State& Current() {
+    static auto* state = new State;
+    return *state;
+}
+
+int AnswerFor(const Message& iMessage) {
+    State& state = Current();
+    if (!state.answers.empty()) {
+        const int answer = state.answers.front();
+        state.answers.pop_front();
+        return answer;
+    }
+    if (state.frontEnd == nullptr)
+        return static_cast<int>(CATDlgWndOK);
+    EventScope::Flush();
+    ++state.waiting;
+    const int answer = state.frontEnd->Show(iMessage);
+    --state.waiting;
+    return answer;
+}
+
+} // namespace
+
+const std::vector<Message>& Messages::Journal() {
+    return Current().journal;
+}
+
+void Messages::ClearJournal() {
+    Current().journal.clear();
+}
+
+void Messages::QueueAnswer(int iButton) {
+    Current().answers.push_back(iButton);
+}
+
+int Messages::QueuedAnswers() {
+    return static_cast<int>(Current().answers.size());
+}
+
+MessageFrontEnd* Messages::SetFrontEnd(MessageFrontEnd* iFrontEnd) {
+    MessageFrontEnd* const previous = Current().frontEnd;
+    Current().frontEnd = iFrontEnd;
+    return previous;
+}
+
+bool Messages::IsWaiting() {
+    return Current().waiting > 0;
+}
+
+int Messages::Ask(Message iMessage) {
+    const std::size_t number = Current().journal.size();
+    Current().journal.push_back(iMessage);
+    const int answer = AnswerFor(iMessage);
+    if (number < Current().journal.size())
+        Current().journal[number].answer = answer;
+    return answer;
+}
+
+void Messages::Reset() {
+    MessageFrontEnd* const frontEnd = Current().frontEnd;
+    Current() = State();
+    Current().frontEnd = frontEnd;
+}
+
+} // namespace host

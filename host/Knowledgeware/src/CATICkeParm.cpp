@@ -1,0 +1,3 @@
+#include "CATICkeParm.h"
+
+CATImplementInterface(CATICkeParm, CATBaseUnknown);

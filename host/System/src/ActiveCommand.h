@@ -1,0 +1,17 @@
+#ifndef ActiveCommand_H
+#define ActiveCommand_H
+
+#include "CATCommand.h"
+
+namespace host {
+
+// The command that hears the notifications nobody in the dialog tree has answered. Not owned.
+class ActiveCommand {
+  public:
+    static CATCommand* Get();
+    static void Set(CATCommand* iCommand);
+};
+
+} // namespace host
+
+#endif

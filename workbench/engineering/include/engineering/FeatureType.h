@@ -1,0 +1,56 @@
+#pragma once
+
+// A feature type of the catalogue: its parameters and the parameter sets of its standard.
+//
+//   const FeatureType* hole = catalogue.Type("ClearanceHole");
+//   const ParameterSet* set = hole->FindSet("ISO 273 M6 fine");
+//   const ParameterValue* diameter = hole->ValueOf(*set, "DH"); // 6.4 mm, H12
+
+#include "engineering/Parameter.h"
+#include "engineering/ParameterSet.h"
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace engineering {
+
+struct TypeDescription {
+    std::string key;      ///< identifier, also the key of the display name
+    std::string group;    ///< key of the group it is shown in
+    std::string standard; ///< the standard the numbers come from
+    std::string note;     ///< source and confidence
+};
+
+class FeatureType {
+  public:
+    /// Takes everything over. Parameter names and set names are unique; each set has one value per parameter.
+    FeatureType(TypeDescription description, std::vector<Parameter> parameters,
+                std::vector<ParameterSet> sets);
+
+    const TypeDescription& Description() const { return _description; }
+    const std::vector<Parameter>& Parameters() const { return _parameters; }
+    const std::vector<ParameterSet>& Sets() const { return _sets; }
+
+    /// The parameter of that exact name, or nullptr.
+    const Parameter* FindParameter(std::string_view name) const;
+
+    /// The set of that exact name, or nullptr.
+    const ParameterSet* FindSet(std::string_view name) const;
+
+    /// The entry of a set of this type for the named parameter, or nullptr for an unknown name.
+    const ParameterValue* ValueOf(const ParameterSet& set, std::string_view parameter) const;
+
+  private:
+    using Index = std::map<std::string, std::size_t, std::less<>>;
+
+    TypeDescription _description;
+    std::vector<Parameter> _parameters; ///< in the order of the catalogue
+    std::vector<ParameterSet> _sets;    ///< in the order of the catalogue
+    Index _parameterIndex;              ///< name to position in _parameters
+    Index _setIndex;                    ///< name to position in _sets
+};
+
+} // namespace engineering

@@ -1,0 +1,22 @@
+#pragma once
+
+// Reads the file of sets of one type.
+
+#include "TypeTable.h"
+#include "engineering/ParameterSet.h"
+#include "engineering/Problem.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace engineering {
+
+/// The sets of the type's file in the folder sets; to be used only when no problem was added.
+std::vector<ParameterSet> ReadSets(const std::filesystem::path& folder, const TypeDraft& type,
+                                   std::vector<Problem>& problems);
+
+/// Reports files in the folder sets that belong to no type.
+void ReportForeignSets(const std::filesystem::path& folder, const std::vector<TypeDraft>& types,
+                       std::vector<Problem>& problems);
+
+} // namespace engineering

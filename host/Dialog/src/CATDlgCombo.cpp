@@ -1,7 +1,10 @@
 #include "CATDlgCombo.h"
 
+#include "CATErrorMacros.h"
+#include "CATInternalError.h"
 #include "WidgetEvents.h"
 #include "host/DialogObserver.h"
+#include "host/FaultPoints.h"
 
 #include <algorithm>
 
@@ -51,6 +54,8 @@ void CATDlgCombo::ClearLine(int iLine) {
 }
 
 void CATDlgCombo::SetSelect(int iLine, int iNotify) {
+    if (host::FaultPoints::FailsByName("combo selection"))
+        CATThrow(new CATInternalError("ComboSelection", "CATDialog"));
     if (iLine < 0 || iLine >= GetLineCount())
         return;
     _selected = iLine;

@@ -115,7 +115,7 @@ void CATDlgMultiList::SetSelect(int* iLines, int iCount, int iNotify) {
         if (iLines[number] >= 0 && iLines[number] < GetLineCount())
             lines.push_back(iLines[number]);
     if (!host::Inspector::IsMultiSelection(*this) && lines.size() > 1)
-        lines.resize(1);
+        lines.erase(lines.begin() + 1, lines.end());
     std::sort(lines.begin(), lines.end());
     lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
     _state->selected = lines;

@@ -35,11 +35,16 @@ class CATXHContext {
 #define CATThrow(iObject) throw static_cast<CATBaseUnknown*>(iObject)
 #define CATRethrow throw
 
+// What a block calls the thrown object: another name on each line, since blocks nest.
+#define CATThrownName(iLine) CATThrownNameOf(iLine)
+#define CATThrownNameOf(iLine) catThrownInLine##iLine
+
 // clang-format off
-#define CATTry { CATXHContext catGuardedBlock; static_cast<void>(catGuardedBlock); try
+#define CATTry { static_cast<void>(CATXHContext()); try
 #define CATCatch(iClass, iVariable)                                                                            \
-    catch (CATBaseUnknown* catThrown) { if (iClass* iVariable = CATXHContext::As<iClass>(catThrown))
-#define CATCatchOthers else if (catThrown != nullptr)
+    catch (CATBaseUnknown* CATThrownName(__LINE__)) {                                                          \
+        if (iClass* iVariable = CATXHContext::As<iClass>(CATThrownName(__LINE__)))
+#define CATCatchOthers else if (true)
 #define CATEndTry else { throw; } } } static_cast<void>(0)
 // clang-format on
 

@@ -44,7 +44,7 @@ std::string Print(Number iNumber, const char* iFormat) {
     if (std::strcmp(point, ".") != 0) {
         const std::size_t at = text.find(point);
         if (at != std::string::npos)
-            text.replace(at, std::strlen(point), ".");
+            text.replace(at, std::strlen(point), 1, '.');
     }
     return text;
 }
@@ -79,7 +79,7 @@ int CATUnicodeString::BuildFromNum(double iNumber, const char* iFormat) {
 int CATUnicodeString::ConvertToNum(double* oNumber) const {
     const char* first = _utf8.data();
     const char* const last = first + _utf8.size();
-    if (first != last && *first == '+')
+    if (last - first > 1 && first[0] == '+' && first[1] != '-')
         ++first;
     double number = 0.0;
     const std::from_chars_result result = std::from_chars(first, last, number);

@@ -49,6 +49,10 @@ bool FaultPoints::Decide(const char* iName) {
     return plan.name == iName && ofThisName == plan.failing;
 }
 
+bool FaultPoints::DecideByName(const char* iName) {
+    return plan.name == iName && ++plan.passedByName[iName] == plan.failing;
+}
+
 bool FaultPoints::ArmFromEnvironment() {
     const char* wanted = std::getenv("KELVANE_FAIL_CALL");
     if (wanted == nullptr || *wanted == '\0')

@@ -19,6 +19,10 @@ class FaultPoints {
     // True when this call has to fail. Costs one test of a flag while nothing is armed.
     static bool Fails(const char* iName) { return _watching && Decide(iName); }
 
+    // The same for a call that never fails by itself but may raise an error from below: it takes part only
+    // when it is asked for by its name, and is counted under that name alone.
+    static bool FailsByName(const char* iName) { return _watching && DecideByName(iName); }
+
     static void StartCounting();
     static void FailCall(int iNumber, const std::string& iName = std::string());
     static void Stop();
@@ -32,6 +36,7 @@ class FaultPoints {
 
   private:
     static bool Decide(const char* iName);
+    static bool DecideByName(const char* iName);
     static bool _watching;
 };
 

@@ -384,6 +384,7 @@ TEST_F(OrvKvTypeAndParameterSetSubTest, WhereTheTypeFrameCannotBeMadeTheSetsWork
     host::FaultPoints::FailCall(1, "widget allocation");
     _panel->Build();
     host::FaultPoints::Stop();
+    _panel->Build(); // makes nothing: what is there was made once
     ASSERT_EQ(host::Inspector::Children(*_panel).size(), 1U);
     const CATListValCATString keys = Keys(1);
     EXPECT_EQ(SetTypes(1, 1, &keys), FailureIn(source, badTypes));

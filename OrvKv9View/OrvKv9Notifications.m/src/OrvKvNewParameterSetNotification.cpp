@@ -1,0 +1,8 @@
+#include "OrvKvNewParameterSetNotification.h"
+
+CATImplementClass(OrvKvNewParameterSetNotification, Implementation, CATNotification, CATNull);
+
+OrvKvNewParameterSetNotification::OrvKvNewParameterSetNotification()
+    : CATNotification(CATNotificationDeleteOff) {}
+
+OrvKvNewParameterSetNotification::~OrvKvNewParameterSetNotification() = default;

@@ -1,0 +1,3 @@
+#include "OrvKvError.h"
+
+OrvKvError::~OrvKvError() = default;

@@ -3,6 +3,8 @@ add_library(project_settings INTERFACE)
 target_compile_options(project_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
   -Wold-style-cast -Wcast-align -Wundef -Werror)
+# GCC 12 reports a false overlap in std::string concatenation when it optimises.
+target_compile_options(project_settings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
 if(KELVANE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

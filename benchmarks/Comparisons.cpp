@@ -1,0 +1,86 @@
+#include "Comparisons.h"
+
+#include "Sizes.h"
+
+namespace {
+
+void AddClimb(std::vector<Comparison>& ioAll) {
+    const std::string climb = "climb, 5 levels";
+    const std::string click = "click, 5 containers down";
+    ioAll.push_back(
+        {"Climb", climb + ": ours / floor", Measure::OursOverFloor, "Climb/Ours", "Climb/Floor", 2.0});
+    ioAll.push_back(
+        {"Climb", click + ": ours / floor", Measure::OursOverFloor, "Click/Ours", "Click/Floor", 2.0});
+    ioAll.push_back(
+        {"Climb", climb + ": Qt event / ours", Measure::PeerOverOurs, "Climb/Ours", "Climb/QtEvent", 0.0});
+    ioAll.push_back({"Climb", climb + ": one Qt signal / ours", Measure::PeerOverOurs, "Climb/Ours",
+                     "Climb/QtSignal", 0.0});
+    ioAll.push_back({"Climb", click + ": Qt button and event / ours", Measure::PeerOverOurs, "Click/Ours",
+                     "Click/QtEvent", 0.0});
+}
+
+void AddCombo(std::vector<Comparison>& ioAll) {
+    for (const int lines : comboSizes) {
+        const std::string size = std::to_string(lines);
+        const std::string line = size + " lines: ";
+        const std::string ours = "ComboRefill/Ours/" + size;
+        ioAll.push_back(
+            {"Combo", line + "ours / floor", Measure::OursOverFloor, ours, "ComboRefill/Floor/" + size, 2.0});
+        ioAll.push_back({"Combo", line + "QComboBox / ours", Measure::PeerOverOurs, ours,
+                         "ComboRefill/QComboBox/" + size, 10.0});
+    }
+}
+
+void AddList(std::vector<Comparison>& ioAll) {
+    for (const int rows : listSizes) {
+        const std::string size = std::to_string(rows);
+        const std::string line = size + " rows: ";
+        const std::string ours = "ListFill/Ours/" + size;
+        ioAll.push_back(
+            {"List", line + "ours / floor", Measure::OursOverFloor, ours, "ListFill/Floor/" + size, 1.5});
+        ioAll.push_back({"List", line + "QTreeWidget / ours", Measure::PeerOverOurs, ours,
+                         "ListFill/QTreeWidget/" + size, 15.0});
+        ioAll.push_back({"List", line + "QStandardItemModel / ours", Measure::PeerOverOurs, ours,
+                         "ListFill/QStandardItemModel/" + size, 0.0});
+        ioAll.push_back({"List", line + "own Qt model / ours", Measure::PeerOverOurs, ours,
+                         "ListFill/QtOwnModel/" + size, 0.0});
+    }
+    ioAll.push_back({"List", "flat: a row of 1000000 / a row of 1000", Measure::CostPerRow,
+                     "ListFill/Ours/1000000", "ListFill/Ours/1000", 1.5});
+    ioAll.push_back({"List", "the floor's: a row of 1000000 / a row of 1000", Measure::CostPerRow,
+                     "ListFill/Floor/1000000", "ListFill/Floor/1000", 0.0});
+    for (const int rows : listSizes) {
+        const std::string size = std::to_string(rows);
+        ioAll.push_back({"List", size + " rows: bytes a row, as the host counts", Measure::Counter,
+                         "ListFill/Ours/" + size, "bytes_per_row", rows == listSizes.back() ? 130.0 : 0.0});
+    }
+    const std::string heap = "1000000 rows: bytes a row, growth of the heap";
+    ioAll.push_back({"List", heap, Measure::Counter, "ListFill/Ours/1000000", "heap_per_row", 130.0});
+    ioAll.push_back(
+        {"List", heap + ", floor", Measure::Counter, "ListFill/Floor/1000000", "heap_per_row", 0.0});
+    ioAll.push_back({"List", heap + ", own Qt model", Measure::Counter, "ListFill/QtOwnModel/1000000",
+                     "heap_per_row", 0.0});
+}
+
+void AddDialog(std::vector<Comparison>& ioAll) {
+    const std::string plain = "75 widgets: ";
+    const std::string placed = "75 widgets, placed: ";
+    ioAll.push_back(
+        {"Dialog", plain + "ours / floor", Measure::OursOverFloor, "Dialog/Ours", "Dialog/Floor", 3.0});
+    ioAll.push_back({"Dialog", placed + "ours / floor", Measure::OursOverFloor, "Dialog/OursPlaced",
+                     "Dialog/Floor", 5.0});
+    ioAll.push_back({"Dialog", plain + "Qt / ours", Measure::PeerOverOurs, "Dialog/Ours", "Dialog/Qt", 25.0});
+    ioAll.push_back(
+        {"Dialog", placed + "Qt / ours", Measure::PeerOverOurs, "Dialog/OursPlaced", "Dialog/Qt", 25.0});
+}
+
+} // namespace
+
+std::vector<Comparison> AllComparisons() {
+    std::vector<Comparison> all;
+    AddClimb(all);
+    AddCombo(all);
+    AddList(all);
+    AddDialog(all);
+    return all;
+}

@@ -12,13 +12,13 @@ class CATApplicationFrame {
   public:
     // Never null; not owned by the caller.
     static CATApplicationFrame* GetFrame();
-    // The main window, which is the parent of the dialogs. Not owned by the caller.
-    CATDialog* GetMainWindow() const { return _mainWindow; }
+    // The main window, which is the parent of the dialogs. Not owned by the caller; null once it is
+    // destroyed.
+    CATDialog* GetMainWindow() const;
 
   private:
     friend class host::Application;
     CATApplicationFrame() = default;
-    CATDialog* _mainWindow = nullptr;
 };
 
 #endif

@@ -96,7 +96,7 @@ class CATDialog : public CATCommand {
     void SetGridColumnResizable(int iColumn, int iFlag = 1);
 
     // Name of the resource file of the class: of the class itself at level 0 and below, of the classes above
-    // it at higher levels. Null or empty ends the row.
+    // it at higher levels. Null, empty, or the name of the level before ends the row.
     virtual char* GetResourceFilename(int iLevel) const;
     // The text of iKey in this widget's own resource files, or in those of the nearest parent that has some.
     // 1 when found; 0 and oValue untouched otherwise.
@@ -107,13 +107,22 @@ class CATDialog : public CATCommand {
     void RequestDelayedDestruction() override;
 
   protected:
-    // The widget's one notification object of a class; made on the first call. Null where memory is short.
+    // The widget's one notification object of a class; made on the first call.
     template<class Notification>
     CATNotification* Event();
     // That object if somebody has asked for it, else null.
     CATNotification* FindEvent(const char* iClassName) const;
-    // Sends one of the widget's own notifications upwards. The widget may be gone afterwards.
+    // Sends one of the widget's own notifications upwards, from a widget without father to the widget itself.
+    // The widget may be gone afterwards.
     void SendEvent(CATNotification* iEvent);
+    // Keeps a value that watchers see; one that is there already is no change. iKind is a host::ChangeKind.
+    template<class Place, class Value>
+    void Store(Place& ioPlace, const Value& iValue, unsigned int iKind) {
+        if (ioPlace == iValue)
+            return;
+        ioPlace = iValue;
+        NoteChange(iKind);
+    }
     // Tells watchers that something visible has changed; iKind is a host::ChangeKind.
     void NoteChange(unsigned int iKind) {
         if (_isWatched)
@@ -121,6 +130,10 @@ class CATDialog : public CATCommand {
     }
     // For widgets that take no children: one that is made in them is recorded as a misuse.
     void TakeNoChildren() { _takesChildren = false; }
+    // For windows, which have no place in their parent's layout.
+    void StandAlone() { _isWindow = true; }
+    // For tab containers, whose children lie behind one another.
+    void HoldPages() { _holdsPages = true; }
 
   private:
     friend class host::ChangeLog;
@@ -159,6 +172,8 @@ class CATDialog : public CATCommand {
     bool _isShown = true;
     bool _isEnabled = true;
     bool _takesChildren = true;
+    bool _isWindow = false;
+    bool _holdsPages = false;
     CATDlgOrientation _orientation = Horizontal;
 };
 

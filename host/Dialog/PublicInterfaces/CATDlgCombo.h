@@ -18,6 +18,8 @@ class CATDlgCombo : public CATDlgControl {
     // CATDlgDataAdd: appends for -1, inserts before line iLine otherwise. CATDlgDataModify: replaces line
     // iLine. A line beyond changes nothing.
     void SetLine(const CATUnicodeString& iText, int iLine = -1, CATULong iMode = CATDlgDataAdd);
+    // The same for a text that was made for the line alone; saves its copy.
+    void SetLine(CATUnicodeString&& ioText, int iLine = -1, CATULong iMode = CATDlgDataAdd);
     // Empty for a line that is not there.
     void GetLine(CATUnicodeString& oText, int iLine) const;
     int GetLineCount() const { return static_cast<int>(_lines.size()); }

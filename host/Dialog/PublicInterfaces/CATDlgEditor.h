@@ -19,7 +19,7 @@ class CATDlgEditor : public CATDlgControl {
     // Replaces line iLine, or appends where iLine is the number of lines or the mode is CATDlgDataAdd. A line
     // beyond changes nothing.
     void SetLine(const CATUnicodeString& iText, int iLine = 0, CATULong iMode = CATDlgDataModify);
-    // The whole text; line breaks divide its lines, and the empty text has none.
+    // The whole text; each line break begins a line, and the empty text has no line.
     void SetText(const CATUnicodeString& iText);
     CATUnicodeString GetText() const;
     // Line iLine, or the whole text for -1; empty for a line that is not there.
@@ -41,7 +41,7 @@ class CATDlgEditor : public CATDlgControl {
     friend class host::Inspector;
 
     std::vector<CATUnicodeString> _lines;
-    int _visibleHeight = 1;
+    int _visibleHeight = 0;
     int _visibleWidth = 0;
     int _maximumWidth = 0;
 };

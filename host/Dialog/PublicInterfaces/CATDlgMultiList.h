@@ -21,7 +21,8 @@ class CATDlgMultiList : public CATDlgControl {
     CATDlgMultiList& operator=(const CATDlgMultiList& iOther);
     ~CATDlgMultiList() override;
 
-    // Fixes the number of columns; done once in the life of a list, later calls change nothing.
+    // Fixes the number of columns; done once in the life of a list, later calls change nothing. Without
+    // titles a list has as many columns as were written, 256 at most.
     void SetColumnTitles(int iCount, const CATUnicodeString* iTitles);
     int GetColumnCount() const;
     // Empty for a column that is not there.
@@ -31,7 +32,7 @@ class CATDlgMultiList : public CATDlgControl {
 
     // CATDlgDataAdd: column 0 appends a line, another column writes into the last line, which is made when
     // there is none; iLine is not looked at. CATDlgDataModify: writes into line iLine; one that is not there
-    // changes nothing. A negative column changes nothing.
+    // changes nothing. A column that cannot be there changes nothing.
     void SetColumnItem(int iColumn, const CATUnicodeString& iText, int iLine = -1,
                        CATULong iMode = CATDlgDataAdd);
     // Empty for a cell that was never written or is not there.
@@ -43,8 +44,8 @@ class CATDlgMultiList : public CATDlgControl {
     int GetSelectCount() const;
     // The first iCount selected lines, in ascending order; the rest of oLines gets -1.
     void GetSelect(int* oLines, int iCount) const;
-    // Replaces the selection. Lines that are not there are left out; a list without multi-selection takes the
-    // first line alone.
+    // Replaces the selection; a count of 0 clears it. Lines that are not there are left out, and where none
+    // is left nothing changes and nothing is sent; a list without multi-selection takes the first line alone.
     void SetSelect(int* iLines, int iCount, int iNotify = CATDlgNoNotification);
     void ClearSelect();
     // Column of the double click that was reported last, or -1.

@@ -14,7 +14,7 @@ class CATDlgSpinner : public CATDlgControl {
   public:
     CATDlgSpinner(CATDialog* iParent, const CATString& iName, CATDlgStyle iStyle = 0);
 
-    // A range that is not finite or whose ends are crossed, or a step that is not positive, changes nothing.
+    // A range or step that is not finite, crossed ends and a step that is not positive change nothing.
     // The value is moved into the new range; with iApply it is moved to a whole number of steps as well.
     void SetMinMaxStep(float iMinimum, float iMaximum, int iStepCount);
     void SetMinMaxStep(double iMinimum, double iMaximum, double iStep, int iApply);

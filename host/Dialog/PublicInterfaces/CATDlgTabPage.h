@@ -9,6 +9,11 @@ class CATDlgTabPage : public CATDlgBox {
 
   public:
     CATDlgTabPage(CATDialog* iParent, const CATString& iName, CATDlgStyle iStyle = 0);
+
+  private:
+    friend class CATDlgTabContainer;
+
+    bool _isChosen = false; // the page of its container that was brought to the front last
 };
 
 #endif

@@ -22,19 +22,22 @@ CATApplicationFrame* CATApplicationFrame::GetFrame() {
     return frame;
 }
 
+CATDialog* CATApplicationFrame::GetMainWindow() const {
+    return host::WidgetTree::Root();
+}
+
 namespace host {
 
 Application::Application() {
-    auto* const mainWindow = new CATDlgDocument(nullptr, "MainWindow");
-    WidgetTree::SetRoot(mainWindow);
+    WidgetTree::SetRoot(new CATDlgDocument(nullptr, "MainWindow"));
     frame = new CATApplicationFrame;
-    frame->_mainWindow = mainWindow;
 }
 
 Application::~Application() {
     EventScope::RunIdle();
-    delete frame->_mainWindow;
+    delete WidgetTree::Root();
     DelayedDestruction::Drain();
+    EventScope::Flush();
     delete frame;
     frame = nullptr;
     SetActiveCommand(nullptr);
@@ -45,7 +48,7 @@ Application::~Application() {
 }
 
 CATDlgDocument& Application::MainWindow() const {
-    return static_cast<CATDlgDocument&>(*frame->_mainWindow);
+    return static_cast<CATDlgDocument&>(*WidgetTree::Root());
 }
 
 void Application::SetActiveCommand(CATCommand* iCommand) {

@@ -22,7 +22,10 @@ CATDialog::CATDialog(const CATDialog& iOther)
     : CATCommand(nullptr, iOther.GetName()), _parent(nullptr),
       _extras(iOther._extras == nullptr ? nullptr : new host::DialogExtras(*iOther._extras)),
       _style(iOther._style), _isShown(iOther._isShown), _isEnabled(iOther._isEnabled),
-      _takesChildren(iOther._takesChildren), _orientation(iOther._orientation) {}
+      _takesChildren(iOther._takesChildren), _isWindow(iOther._isWindow), _holdsPages(iOther._holdsPages),
+      _orientation(iOther._orientation) {
+    host::WidgetTree::Announce(*this);
+}
 
 CATDialog& CATDialog::operator=(const CATDialog& iOther) {
     if (this == &iOther)
@@ -32,6 +35,8 @@ CATDialog& CATDialog::operator=(const CATDialog& iOther) {
     _style = iOther._style;
     _isShown = iOther._isShown;
     _isEnabled = iOther._isEnabled;
+    _orientation = iOther._orientation;
+    NoteChange(host::ChangeAll);
     return *this;
 }
 
@@ -89,11 +94,10 @@ CATNotification* CATDialog::GetVisibilityNotification() {
 void CATDialog::SetIconName(const CATString& iNormal, const CATString& iSelected, const CATString& iFocus,
                             const CATString& iDisabled) {
     CATString* const icons = Extras().icons;
-    icons[0] = iNormal;
-    icons[1] = iSelected;
-    icons[2] = iFocus;
-    icons[3] = iDisabled;
-    NoteChange(host::ChangeIcon);
+    Store(icons[0], iNormal, host::ChangeIcon);
+    Store(icons[1], iSelected, host::ChangeIcon);
+    Store(icons[2], iFocus, host::ChangeIcon);
+    Store(icons[3], iDisabled, host::ChangeIcon);
 }
 
 void CATDialog::SetRectDimensions(int iX, int iY, int iHeight, int iWidth) {
@@ -146,7 +150,7 @@ void CATDialog::SendEvent(CATNotification* iEvent) {
     if (iEvent == nullptr)
         return;
     iEvent->AddRef(); // sending gives one reference away
-    SendNotification(GetFather(), iEvent);
+    SendNotification(GetFather() == nullptr ? this : GetFather(), iEvent);
 }
 
 host::DialogExtras& CATDialog::Extras() {

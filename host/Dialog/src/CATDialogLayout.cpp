@@ -28,10 +28,7 @@ void SetFlag(std::vector<int>& ioNumbers, int iNumber, bool iIsSet) {
 } // namespace
 
 void CATDialog::SetDefaultOrientation(CATDlgOrientation iOrientation) {
-    if (_orientation == iOrientation)
-        return;
-    _orientation = iOrientation;
-    NoteChange(host::ChangeLayout);
+    Store(_orientation, iOrientation, host::ChangeLayout);
 }
 
 void CATDialog::SetHorizontalAttachment(int iTab, CATDlgAttachment iMode, CATDialog* iFirst, ...) {

@@ -16,8 +16,7 @@ CATUnicodeString TextOr(const std::optional<std::string>& iText, const CATUnicod
 } // namespace
 
 void CATDialog::SetTitle(const CATUnicodeString& iTitle) {
-    Extras().title = iTitle;
-    NoteChange(host::ChangeTitle);
+    Store(Extras().title, iTitle, host::ChangeTitle);
 }
 
 CATUnicodeString CATDialog::GetTitle() const {
@@ -28,8 +27,7 @@ CATUnicodeString CATDialog::GetTitle() const {
 }
 
 void CATDialog::SetShortHelp(const CATUnicodeString& iText) {
-    Extras().shortHelp = iText;
-    NoteChange(host::ChangeHelp);
+    Store(Extras().shortHelp, iText, host::ChangeHelp);
 }
 
 CATUnicodeString CATDialog::GetShortHelp() const {
@@ -39,8 +37,7 @@ CATUnicodeString CATDialog::GetShortHelp() const {
 }
 
 void CATDialog::SetLongHelp(const CATUnicodeString& iText) {
-    Extras().longHelp = iText;
-    NoteChange(host::ChangeHelp);
+    Store(Extras().longHelp, iText, host::ChangeHelp);
 }
 
 CATUnicodeString CATDialog::GetLongHelp() const {
@@ -50,8 +47,7 @@ CATUnicodeString CATDialog::GetLongHelp() const {
 }
 
 void CATDialog::SetHelp(const CATUnicodeString& iText) {
-    Extras().help = iText;
-    NoteChange(host::ChangeHelp);
+    Store(Extras().help, iText, host::ChangeHelp);
 }
 
 CATUnicodeString CATDialog::GetHelp() const {

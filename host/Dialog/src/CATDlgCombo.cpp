@@ -7,6 +7,7 @@
 #include "host/FaultPoints.h"
 
 #include <algorithm>
+#include <utility>
 
 CATImplementClass(CATDlgCombo, Implementation, CATDlgControl, CATNull);
 
@@ -14,18 +15,22 @@ CATDlgCombo::CATDlgCombo(CATDialog* iParent, const CATString& iName, CATDlgStyle
     : CATDlgControl(iParent, iName, iStyle) {}
 
 void CATDlgCombo::SetLine(const CATUnicodeString& iText, int iLine, CATULong iMode) {
+    SetLine(CATUnicodeString(iText), iLine, iMode);
+}
+
+void CATDlgCombo::SetLine(CATUnicodeString&& ioText, int iLine, CATULong iMode) {
     const int count = GetLineCount();
     const bool isAdded = iMode == CATDlgDataAdd;
     if (isAdded && (iLine == -1 || iLine == count)) {
-        _lines.push_back(iText);
+        _lines.push_back(std::move(ioText));
     } else if (iLine < 0 || iLine >= count) {
         return;
     } else if (isAdded) {
-        _lines.insert(_lines.begin() + iLine, iText);
+        _lines.insert(_lines.begin() + iLine, std::move(ioText));
         if (_selected >= iLine)
             ++_selected;
     } else {
-        _lines[static_cast<std::size_t>(iLine)] = iText;
+        _lines[static_cast<std::size_t>(iLine)] = std::move(ioText);
     }
     NoteChange(host::ChangeContent);
 }
@@ -58,8 +63,7 @@ void CATDlgCombo::SetSelect(int iLine, int iNotify) {
         CATThrow(new CATInternalError("ComboSelection", "CATDialog"));
     if (iLine < 0 || iLine >= GetLineCount())
         return;
-    _selected = iLine;
-    NoteChange(host::ChangeSelection);
+    Store(_selected, iLine, host::ChangeSelection);
     if (iNotify == CATDlgWithNotification)
         SendEvent(GetComboSelectNotification());
 }
@@ -71,13 +75,11 @@ void CATDlgCombo::SetSelect(const CATUnicodeString& iText, int iNotify) {
 }
 
 void CATDlgCombo::SetVisibleTextHeight(int iLines) {
-    _visibleHeight = iLines;
-    NoteChange(host::ChangeLayout);
+    Store(_visibleHeight, iLines, host::ChangeLayout);
 }
 
 void CATDlgCombo::SetVisibleTextWidth(int iCharacters) {
-    _visibleWidth = iCharacters;
-    NoteChange(host::ChangeLayout);
+    Store(_visibleWidth, iCharacters, host::ChangeLayout);
 }
 
 CATNotification* CATDlgCombo::GetComboSelectNotification() {

@@ -15,10 +15,7 @@ CATDlgDialog::~CATDlgDialog() {
 }
 
 void CATDlgDialog::SetDefaultButton(CATULong iButton) {
-    if (_defaultButton == iButton)
-        return;
-    _defaultButton = iButton;
-    NoteChange(host::ChangeState);
+    Store(_defaultButton, iButton, host::ChangeState);
 }
 
 CATNotification* CATDlgDialog::GetDiaOKNotification() {

@@ -3,7 +3,7 @@
 #include "WidgetEvents.h"
 #include "host/DialogObserver.h"
 
-#include <sstream>
+#include <algorithm>
 #include <string>
 
 CATImplementClass(CATDlgEditor, Implementation, CATDlgControl, CATNull);
@@ -24,9 +24,12 @@ void CATDlgEditor::SetLine(const CATUnicodeString& iText, int iLine, CATULong iM
 
 void CATDlgEditor::SetText(const CATUnicodeString& iText) {
     _lines.clear();
-    std::istringstream lines{std::string(iText.ConvertToChar())};
-    for (std::string line; std::getline(lines, line);)
-        _lines.emplace_back(line.c_str());
+    const std::string text = iText.ConvertToChar();
+    for (std::size_t begin = 0; !text.empty() && begin <= text.size();) {
+        const std::size_t end = std::min(text.find('\n', begin), text.size());
+        _lines.emplace_back(text.substr(begin, end - begin).c_str());
+        begin = end + 1;
+    }
     NoteChange(host::ChangeContent);
 }
 
@@ -58,18 +61,15 @@ void CATDlgEditor::ClearLine(int iLine) {
 }
 
 void CATDlgEditor::SetVisibleTextHeight(int iLines) {
-    _visibleHeight = iLines;
-    NoteChange(host::ChangeLayout);
+    Store(_visibleHeight, iLines, host::ChangeLayout);
 }
 
 void CATDlgEditor::SetVisibleTextWidth(int iCharacters) {
-    _visibleWidth = iCharacters;
-    NoteChange(host::ChangeLayout);
+    Store(_visibleWidth, iCharacters, host::ChangeLayout);
 }
 
 void CATDlgEditor::SetMaxTextWidth(int iCharacters) {
-    _maximumWidth = iCharacters;
-    NoteChange(host::ChangeLayout);
+    Store(_maximumWidth, iCharacters, host::ChangeLayout);
 }
 
 CATNotification* CATDlgEditor::GetEditModifyNotification() {

@@ -9,6 +9,10 @@
 
 CATImplementClass(CATDlgMultiList, Implementation, CATDlgControl, CATNull);
 
+namespace {
+constexpr int maximumColumns = 256; // of a list without titles
+}
+
 CATDlgMultiList::CATDlgMultiList(CATDialog* iParent, const CATString& iName, CATDlgStyle iStyle)
     : CATDlgControl(iParent, iName, iStyle), _state(new host::MultiListState) {}
 
@@ -44,8 +48,7 @@ void CATDlgMultiList::GetColumnTitle(int iColumn, CATUnicodeString& oTitle) cons
 }
 
 void CATDlgMultiList::SetVisibleColumnCount(int iCount) {
-    _state->visibleColumns = iCount;
-    NoteChange(host::ChangeLayout);
+    Store(_state->visibleColumns, iCount, host::ChangeLayout);
 }
 
 void CATDlgMultiList::SetColumnTextWidth(int iColumn, int iCharacters) {
@@ -54,14 +57,13 @@ void CATDlgMultiList::SetColumnTextWidth(int iColumn, int iCharacters) {
     const std::size_t column = static_cast<std::size_t>(iColumn);
     if (column >= _state->columnWidths.size())
         _state->columnWidths.resize(column + 1, 0);
-    _state->columnWidths[column] = iCharacters;
-    NoteChange(host::ChangeLayout);
+    Store(_state->columnWidths[column], iCharacters, host::ChangeLayout);
 }
 
 void CATDlgMultiList::SetColumnItem(int iColumn, const CATUnicodeString& iText, int iLine, CATULong iMode) {
     host::TextTable& cells = _state->cells;
     const bool isFixed = !_state->titles.empty();
-    if (iColumn < 0 || (isFixed && iColumn >= static_cast<int>(_state->titles.size())))
+    if (iColumn < 0 || iColumn >= (isFixed ? static_cast<int>(_state->titles.size()) : maximumColumns))
         return;
     int line = iLine;
     if (iMode == CATDlgDataAdd) {
@@ -114,12 +116,13 @@ void CATDlgMultiList::SetSelect(int* iLines, int iCount, int iNotify) {
     for (int number = 0; iLines != nullptr && number < iCount; ++number)
         if (iLines[number] >= 0 && iLines[number] < GetLineCount())
             lines.push_back(iLines[number]);
+    if (lines.empty() && iCount > 0)
+        return;
     if (!host::Inspector::IsMultiSelection(*this) && lines.size() > 1)
         lines.erase(lines.begin() + 1, lines.end());
     std::sort(lines.begin(), lines.end());
     lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
-    _state->selected = lines;
-    NoteChange(host::ChangeSelection);
+    Store(_state->selected, lines, host::ChangeSelection);
     if (iNotify == CATDlgWithNotification)
         SendEvent(GetListSelectNotification());
 }
@@ -136,13 +139,11 @@ int CATDlgMultiList::GetActivatedColumn() const {
 }
 
 void CATDlgMultiList::SetVisibleTextHeight(int iLines) {
-    _state->visibleHeight = iLines;
-    NoteChange(host::ChangeLayout);
+    Store(_state->visibleHeight, iLines, host::ChangeLayout);
 }
 
 void CATDlgMultiList::SetVisibleTextWidth(int iCharacters) {
-    _state->visibleWidth = iCharacters;
-    NoteChange(host::ChangeLayout);
+    Store(_state->visibleWidth, iCharacters, host::ChangeLayout);
 }
 
 CATNotification* CATDlgMultiList::GetListSelectNotification() {

@@ -20,7 +20,8 @@ void CATDlgSpinner::SetMinMaxStep(float iMinimum, float iMaximum, int iStepCount
 }
 
 void CATDlgSpinner::SetMinMaxStep(double iMinimum, double iMaximum, double iStep, int iApply) {
-    if (!std::isfinite(iMinimum) || !std::isfinite(iMaximum) || iMinimum > iMaximum || !(iStep > 0.0))
+    const bool isRange = std::isfinite(iMinimum) && std::isfinite(iMaximum) && iMinimum <= iMaximum;
+    if (!isRange || !std::isfinite(iStep) || iStep <= 0.0)
         return;
     _minimum = iMinimum;
     _maximum = iMaximum;
@@ -32,8 +33,7 @@ void CATDlgSpinner::SetMinMaxStep(double iMinimum, double iMaximum, double iStep
 }
 
 void CATDlgSpinner::SetPrecision(int iFixed, int) {
-    _precision = iFixed;
-    NoteChange(host::ChangeContent);
+    Store(_precision, iFixed, host::ChangeContent);
 }
 
 void CATDlgSpinner::SetValue(double iValue, int iNotify) {

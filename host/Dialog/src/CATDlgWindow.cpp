@@ -7,6 +7,7 @@ CATImplementClass(CATDlgWindow, Implementation, CATDialog, CATNull);
 
 CATDlgWindow::CATDlgWindow(CATDialog* iParent, const CATString& iName, CATDlgStyle iStyle)
     : CATDialog(iParent, iName, iStyle) {
+    StandAlone();
     SetVisibility(CATDlgHide);
     host::WidgetTree::JoinWindow(*this);
 }

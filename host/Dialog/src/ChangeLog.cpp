@@ -28,6 +28,11 @@ bool IsEmpty(const DialogChanges& iChanges) {
     return iChanges.destroyed.empty() && iChanges.created.empty() && iChanges.changed.empty();
 }
 
+bool IsListening(const DialogObserver& iObserver) {
+    const std::vector<DialogObserver*>& observers = Current().observers;
+    return std::find(observers.begin(), observers.end(), &iObserver) != observers.end();
+}
+
 } // namespace
 
 void ChangeLog::NoteCreation(CATDialog& ioWidget) {
@@ -64,7 +69,9 @@ void ChangeLog::NoteChange(CATDialog& ioWidget, unsigned int iKind) {
     AskForIdle();
 }
 
+// What happened before is delivered first: the added observer has it from the tree.
 void ChangeLog::AddObserver(DialogObserver& ioObserver) {
+    Deliver();
     Current().observers.push_back(&ioObserver);
     UpdateWatching();
 }
@@ -90,7 +97,8 @@ void ChangeLog::Deliver() {
                       changed.end());
         const std::vector<DialogObserver*> observers = log.observers;
         for (DialogObserver* observer : observers)
-            observer->OnChanges(changes);
+            if (IsListening(*observer))
+                observer->OnChanges(changes);
     }
 }
 

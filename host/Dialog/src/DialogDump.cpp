@@ -12,6 +12,7 @@
 #include "host/Inspector.h"
 
 #include <algorithm>
+#include <locale>
 #include <sstream>
 
 namespace host {
@@ -204,6 +205,7 @@ class Writer {
 
 std::string DialogDump::Of(const CATDialog& iWidget, Detail iDetail) {
     std::ostringstream out;
+    out.imbue(std::locale::classic());
     Writer(out, iDetail).Write(iWidget, 0);
     return out.str();
 }

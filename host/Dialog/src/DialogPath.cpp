@@ -29,7 +29,7 @@ std::string Escaped(const std::string& iName) {
 }
 
 struct Place {
-    int number = 1; // among the siblings of the same name, from 1
+    int number = 1; // among the siblings of the same name, from 1; 0 for a widget on its way out
     int count = 1;  // of those siblings
 };
 
@@ -51,7 +51,7 @@ Place PlaceAmongNamesakes(const CATDialog& iWidget) {
 std::string StepOf(const CATDialog& iWidget) {
     const Place place = PlaceAmongNamesakes(iWidget);
     const std::string name = Escaped(iWidget.GetName().ConvertToChar());
-    return place.count > 1 ? name + "[" + std::to_string(place.number) + "]" : name;
+    return place.count > 1 && place.number > 0 ? name + "[" + std::to_string(place.number) + "]" : name;
 }
 
 // The number in "[n]" from iAt on; 0 when there is no such number.
@@ -90,7 +90,7 @@ std::optional<std::vector<Step>> Parse(const std::string& iPath) {
 bool Matches(const CATDialog& iWidget, const std::vector<Step>& iSteps) {
     const CATDialog* widget = &iWidget;
     for (auto step = iSteps.rbegin(); step != iSteps.rend(); ++step) {
-        if (widget == nullptr || widget == WidgetTree::Root() || widget->GetName() != step->name.c_str())
+        if (widget == nullptr || widget->GetName() != step->name.c_str())
             return false;
         if (step->number != 0 && PlaceAmongNamesakes(*widget).number != step->number)
             return false;
@@ -112,7 +112,7 @@ std::string AmbiguityReason(const std::string& iPath, const std::vector<CATDialo
 std::string DialogPath::Of(const CATDialog& iWidget) {
     std::string path = StepOf(iWidget);
     const CATDialog* widget = &iWidget;
-    while (dynamic_cast<const CATDlgWindow*>(widget) == nullptr) {
+    while (!Inspector::IsWindow(*widget)) {
         widget = Inspector::Parent(*widget);
         if (widget == nullptr)
             return path;
@@ -133,10 +133,9 @@ Found DialogPath::Find(const std::string& iPath) {
         return Found{nullptr, "there is no widget '" + iPath + "'"};
     if (widgets.size() == 1)
         return Found{widgets.front(), std::string()};
-    const auto whole = std::find_if(widgets.begin(), widgets.end(),
-                                    [&iPath](const CATDialog* iWidget) { return Of(*iWidget) == iPath; });
-    if (whole != widgets.end())
-        return Found{*whole, std::string()};
+    const auto isWhole = [&iPath](const CATDialog* iWidget) { return Of(*iWidget) == iPath; };
+    if (std::count_if(widgets.begin(), widgets.end(), isWhole) == 1)
+        return Found{*std::find_if(widgets.begin(), widgets.end(), isWhole), std::string()};
     return Found{nullptr, AmbiguityReason(iPath, widgets)};
 }
 

@@ -2,6 +2,7 @@
 
 #include "CATDlgCheckButton.h"
 #include "CATDlgCombo.h"
+#include "CATDlgDocument.h"
 #include "CATDlgEditor.h"
 #include "CATDlgMultiList.h"
 #include "CATDlgPushButton.h"
@@ -38,29 +39,16 @@ bool IsBelow(const CATDialog& iWidget, const CATDialog& iParent) {
 // The modal window that was made last among those that are shown, or null.
 const CATDlgWindow* TopModalWindow() {
     const CATDlgWindow* top = nullptr;
-    for (const CATDlgWindow* window : Inspector::Windows())
-        if (Inspector::IsModal(*window) && Inspector::IsShownWithParents(*window))
+    for (const CATDlgWindow* window : WidgetTree::Windows())
+        if (Inspector::IsModal(*window) && WidgetTree::IsReachable(*window) &&
+            Inspector::IsShownWithParents(*window))
             top = window;
     return top;
 }
 
-// The first widget, from iWidget upwards, that iIsBad holds for; null for none.
-template<class Test>
-const CATDialog* FirstUpwards(const CATDialog& iWidget, const Test& iIsBad) {
-    for (const CATDialog* widget = &iWidget; widget != nullptr; widget = Inspector::Parent(*widget))
-        if (iIsBad(*widget))
-            return widget;
-    return nullptr;
-}
-
-bool IsPageBehind(const CATDialog& iWidget) {
-    const CATDialog* const parent = Inspector::Parent(iWidget);
-    const auto* const pages = dynamic_cast<const CATDlgTabContainer*>(parent);
-    if (pages == nullptr)
-        return false;
-    const std::vector<CATDialog*> all = Inspector::Children(*pages);
-    const int front = pages->GetSelectedPage();
-    return front < 0 || all[static_cast<std::size_t>(front)] != &iWidget;
+void KeepFirst(const CATDialog*& ioFirst, const CATDialog& iWidget, bool iIsObstacle) {
+    if (iIsObstacle && ioFirst == nullptr)
+        ioFirst = &iWidget;
 }
 
 std::string NameOfButton(CATULong iButton) {
@@ -101,29 +89,50 @@ std::string NoLine(int iLine, int iCount) {
 
 } // namespace
 
+DialogUser::Obstacles DialogUser::FindObstacles(const CATDialog& iWidget) {
+    Obstacles found;
+    const CATDialog* const root = WidgetTree::Root();
+    const CATDialog* widget = &iWidget;
+    for (; widget != nullptr && widget != root; widget = widget->_parent) {
+        KeepFirst(found.doomed, *widget, DelayedDestruction::IsDoomed(*widget));
+        KeepFirst(found.hidden, *widget, !widget->_isShown);
+        KeepFirst(found.behind, *widget, IsPageBehind(*widget));
+        KeepFirst(found.disabled, *widget, !widget->_isEnabled);
+    }
+    found.isInWindow = widget != nullptr;
+    return found;
+}
+
+bool DialogUser::IsPageBehind(const CATDialog& iWidget) {
+    const CATDialog* const parent = iWidget._parent;
+    if (parent == nullptr || !parent->_holdsPages)
+        return false;
+    const auto* const pages = dynamic_cast<const CATDlgTabContainer*>(parent);
+    if (pages == nullptr)
+        return false;
+    const std::vector<CATDialog*> all = Inspector::Children(*pages);
+    const int front = pages->GetSelectedPage();
+    return front < 0 || all[static_cast<std::size_t>(front)] != &iWidget;
+}
+
 Outcome DialogUser::CanUse(const CATDialog& iWidget) {
-    if (FirstUpwards(iWidget, [](const CATDialog& iEach) { return DelayedDestruction::IsDoomed(iEach); }) !=
-        nullptr)
+    const Obstacles found = FindObstacles(iWidget);
+    if (found.doomed != nullptr)
         return Refuse(iWidget, "is on its way out");
-    if (WidgetTree::Root() == nullptr || !IsBelow(iWidget, *WidgetTree::Root()))
+    if (!found.isInWindow)
         return Refuse(iWidget, "is in no window");
     if (Messages::IsWaiting())
         return Refuse(iWidget, "is blocked by a message that waits for its answer");
-    const CATDialog* const hidden =
-        FirstUpwards(iWidget, [](const CATDialog& iEach) { return iEach.GetVisibility() == CATDlgHide; });
-    if (hidden == &iWidget)
+    if (found.hidden == &iWidget)
         return Refuse(iWidget, "is hidden");
-    if (hidden != nullptr)
-        return Refuse(iWidget, "is hidden with " + DialogPath::Of(*hidden));
-    const CATDialog* const behind = FirstUpwards(iWidget, IsPageBehind);
-    if (behind != nullptr)
-        return Refuse(iWidget, "is on the page " + DialogPath::Of(*behind) + ", which is not in front");
-    const CATDialog* const disabled =
-        FirstUpwards(iWidget, [](const CATDialog& iEach) { return iEach.GetSensitivity() == CATDlgDisable; });
-    if (disabled == &iWidget)
+    if (found.hidden != nullptr)
+        return Refuse(iWidget, "is hidden with " + DialogPath::Of(*found.hidden));
+    if (found.behind != nullptr)
+        return Refuse(iWidget, "is on the page " + DialogPath::Of(*found.behind) + ", which is not in front");
+    if (found.disabled == &iWidget)
         return Refuse(iWidget, "is disabled");
-    if (disabled != nullptr)
-        return Refuse(iWidget, "is disabled with " + DialogPath::Of(*disabled));
+    if (found.disabled != nullptr)
+        return Refuse(iWidget, "is disabled with " + DialogPath::Of(*found.disabled));
     const CATDlgWindow* const modal = TopModalWindow();
     if (modal != nullptr && !IsBelow(iWidget, *modal))
         return Refuse(iWidget, "is blocked by the modal window " + DialogPath::Of(*modal));
@@ -131,12 +140,8 @@ Outcome DialogUser::CanUse(const CATDialog& iWidget) {
 }
 
 bool DialogUser::CanSee(const CATDialog& iWidget) {
-    const auto isUnseen = [](const CATDialog& iEach) {
-        return iEach.GetVisibility() == CATDlgHide || DelayedDestruction::IsDoomed(iEach) ||
-               IsPageBehind(iEach);
-    };
-    const CATDialog* const root = WidgetTree::Root();
-    return root != nullptr && IsBelow(iWidget, *root) && FirstUpwards(iWidget, isUnseen) == nullptr;
+    const Obstacles found = FindObstacles(iWidget);
+    return found.isInWindow && found.hidden == nullptr && found.doomed == nullptr && found.behind == nullptr;
 }
 
 Outcome DialogUser::Press(CATDlgPushButton& ioButton) {
@@ -172,6 +177,15 @@ Outcome DialogUser::PressEscape(CATDlgDialog& ioDialog) {
     if (std::find(buttons.begin(), buttons.end(), CATDlgWndCANCEL) != buttons.end())
         return PressStandardButton(ioDialog, CATDlgWndCANCEL);
     return Close(ioDialog);
+}
+
+Outcome DialogUser::PressEscape(CATDlgDocument& ioMainWindow) {
+    Outcome use = CanUse(ioMainWindow);
+    if (!use)
+        return use;
+    const EventScope event;
+    static_cast<CATDialog&>(ioMainWindow).SendEvent(ioMainWindow.GetEscapeNotification());
+    return use;
 }
 
 Outcome DialogUser::OpenList(CATDlgCombo& ioCombo) {
@@ -211,16 +225,17 @@ Outcome SetChecked(CATDialog& ioButton, CATULong iState) {
     Outcome use = DialogUser::CanUse(ioButton);
     if (!use)
         return use;
-    const EventScope event;
-    if (auto* radio = dynamic_cast<CATDlgRadioButton*>(&ioButton)) {
-        if (iState == CATDlgUncheck)
-            return Refuse(ioButton, "is a radio button and cannot be unchecked by hand");
-        radio->SetState(iState, CATDlgWithNotification);
-    } else if (auto* check = dynamic_cast<CATDlgCheckButton*>(&ioButton)) {
-        check->SetState(iState, CATDlgWithNotification);
-    } else {
+    auto* const radio = dynamic_cast<CATDlgRadioButton*>(&ioButton);
+    auto* const check = dynamic_cast<CATDlgCheckButton*>(&ioButton);
+    if (radio == nullptr && check == nullptr)
         return Refuse(ioButton, "is no radio or check button");
-    }
+    if (radio != nullptr && iState == CATDlgUncheck)
+        return Refuse(ioButton, "is a radio button and cannot be unchecked by hand");
+    const EventScope event;
+    if (radio != nullptr)
+        radio->SetState(iState, CATDlgWithNotification);
+    else
+        check->SetState(iState, CATDlgWithNotification);
     return use;
 }
 
@@ -334,6 +349,8 @@ Outcome DialogUser::ShowPage(CATDlgTabPage& ioPage) {
     auto* const pages = dynamic_cast<CATDlgTabContainer*>(parent);
     if (pages == nullptr)
         return Refuse(ioPage, "is in no tab container");
+    if (DelayedDestruction::IsDoomed(ioPage))
+        return Refuse(ioPage, "is on its way out");
     if (ioPage.GetVisibility() == CATDlgHide)
         return Refuse(ioPage, "is hidden");
     Outcome use = CanUse(*pages);

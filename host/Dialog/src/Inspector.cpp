@@ -33,6 +33,11 @@ bool Contains(const std::vector<int>& iNumbers, int iNumber) {
     return std::find(iNumbers.begin(), iNumbers.end(), iNumber) != iNumbers.end();
 }
 
+// Whether the way upwards ends at iWidget.
+bool IsTop(const CATDialog* iWidget) {
+    return iWidget == nullptr || iWidget == WidgetTree::Root();
+}
+
 template<class Place>
 Inspector::TabSpan SpanOf(const Place& iPlace) {
     return Inspector::TabSpan{iPlace.leading,     iPlace.trailing,  iPlace.hasLeading,
@@ -74,9 +79,17 @@ CATDlgWindow* Inspector::WindowOf(const CATDialog& iWidget) {
 std::vector<CATDlgWindow*> Inspector::Windows() {
     std::vector<CATDlgWindow*> windows;
     for (CATDlgWindow* window : WidgetTree::Windows())
-        if (window != WidgetTree::Root() && !DelayedDestruction::IsDoomed(*window))
+        if (WidgetTree::IsReachable(*window))
             windows.push_back(window);
     return windows;
+}
+
+bool Inspector::IsWindow(const CATDialog& iWidget) {
+    return iWidget._isWindow;
+}
+
+bool Inspector::HoldsPages(const CATDialog& iWidget) {
+    return iWidget._holdsPages;
 }
 
 CATDlgStyle Inspector::Style(const CATDialog& iWidget) {
@@ -84,14 +97,14 @@ CATDlgStyle Inspector::Style(const CATDialog& iWidget) {
 }
 
 bool Inspector::IsShownWithParents(const CATDialog& iWidget) {
-    for (const CATDialog* widget = &iWidget; widget != nullptr; widget = widget->_parent)
+    for (const CATDialog* widget = &iWidget; !IsTop(widget); widget = widget->_parent)
         if (!widget->_isShown)
             return false;
     return true;
 }
 
 bool Inspector::IsEnabledWithParents(const CATDialog& iWidget) {
-    for (const CATDialog* widget = &iWidget; widget != nullptr; widget = widget->_parent)
+    for (const CATDialog* widget = &iWidget; !IsTop(widget); widget = widget->_parent)
         if (!widget->_isEnabled)
             return false;
     return true;
@@ -100,8 +113,9 @@ bool Inspector::IsEnabledWithParents(const CATDialog& iWidget) {
 bool Inspector::ShowsTitle(const CATDialog& iWidget) {
     if (dynamic_cast<const CATDlgFrame*>(&iWidget) != nullptr)
         return (iWidget._style & (CATDlgFraNoFrame | CATDlgFraNoTitle)) == 0;
+    if (dynamic_cast<const CATDlgLabel*>(&iWidget) != nullptr)
+        return Icons(iWidget).normal.empty();
     return dynamic_cast<const CATDlgWindow*>(&iWidget) != nullptr ||
-           dynamic_cast<const CATDlgLabel*>(&iWidget) != nullptr ||
            dynamic_cast<const CATDlgPushButton*>(&iWidget) != nullptr ||
            dynamic_cast<const CATDlgRadioButton*>(&iWidget) != nullptr ||
            dynamic_cast<const CATDlgCheckButton*>(&iWidget) != nullptr ||
@@ -235,7 +249,7 @@ CATULong Inspector::DefaultButton(const CATDlgDialog& iDialog) {
 }
 
 bool Inspector::IsModal(const CATDlgWindow& iWindow) {
-    return dynamic_cast<const CATDlgDialog*>(&iWindow) != nullptr && (Style(iWindow) & CATDlgWndModal) != 0;
+    return (Style(iWindow) & CATDlgWndModal) != 0 && dynamic_cast<const CATDlgDialog*>(&iWindow) != nullptr;
 }
 
 int Inspector::PowerInputUpdates(const CATDlgDialog& iDialog) {

@@ -1,11 +1,10 @@
 #include "host/LayoutPlan.h"
 
 #include "CATDialog.h"
-#include "CATDlgTabContainer.h"
-#include "CATDlgWindow.h"
 #include "host/Inspector.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace host {
 
@@ -32,6 +31,7 @@ class Axis {
     }
 
     void CollectLines(const std::vector<CATDialog*>& iChildren) {
+        _lines.reserve(2 * iChildren.size());
         for (const CATDialog* child : iChildren) {
             const TabSpan span = _spanOf(*child);
             if (span.hasLeading)
@@ -41,6 +41,11 @@ class Axis {
         }
         std::sort(_lines.begin(), _lines.end());
         _lines.erase(std::unique(_lines.begin(), _lines.end()), _lines.end());
+        for (const CATDialog* child : iChildren) {
+            const TabSpan span = _spanOf(*child);
+            if (!span.hasLeading && span.hasTrailing && span.trailing == _lines.front())
+                _cellsBefore = 1;
+        }
     }
 
     // The block of an attached child.
@@ -53,7 +58,7 @@ class Axis {
             block.first = LineIndex(span.leading);
             block.span = span.hasTrailing ? std::max(1, LineIndex(span.trailing) - block.first) : 1;
         } else {
-            block.first = std::max(0, LineIndex(span.trailing) - 1);
+            block.first = LineIndex(span.trailing) - 1;
         }
         Use(block, span.stretches);
         return block;
@@ -75,11 +80,13 @@ class Axis {
     }
 
     int Count() const { return static_cast<int>(_stretches.size()); }
-    const std::vector<bool>& Stretches() const { return _stretches; }
+    // Gives the stretching cells away.
+    std::vector<bool> TakeStretches() { return std::move(_stretches); }
 
   private:
     int LineIndex(int iTab) const {
-        return static_cast<int>(std::lower_bound(_lines.begin(), _lines.end(), iTab) - _lines.begin());
+        const auto line = std::lower_bound(_lines.begin(), _lines.end(), iTab);
+        return _cellsBefore + static_cast<int>(line - _lines.begin());
     }
 
     void Use(const Block& iBlock, bool iStretches) {
@@ -92,14 +99,16 @@ class Axis {
 
     TabSpan (*_spanOf)(const CATDialog&);
     std::vector<int> _lines;
+    int _cellsBefore = 0;         // 1 when a child ends on the first line
     std::vector<bool> _stretches; // one entry a cell
 };
 
 std::vector<CATDialog*> ShownChildren(const CATDialog& iContainer) {
     std::vector<CATDialog*> children;
+    children.reserve(16); // enough for most containers
     for (CATDialog* child = Inspector::FirstChild(iContainer); child != nullptr;
          child = Inspector::NextSibling(*child))
-        if (child->GetVisibility() == CATDlgShow && dynamic_cast<const CATDlgWindow*>(child) == nullptr)
+        if (child->GetVisibility() == CATDlgShow && !Inspector::IsWindow(*child))
             children.push_back(child);
     return children;
 }
@@ -150,34 +159,30 @@ LayoutPlan PlanTabulations(const CATDialog& iContainer, const std::vector<CATDia
     }
     plan.rows = rows.Count();
     plan.columns = columns.Count();
-    plan.rowStretches = rows.Stretches();
-    plan.columnStretches = columns.Stretches();
+    plan.rowStretches = rows.TakeStretches();
+    plan.columnStretches = columns.TakeStretches();
     return plan;
 }
 
+// Children without constraints follow below, one a row.
 LayoutPlan PlanGrid(const CATDialog& iContainer, const std::vector<CATDialog*>& iChildren) {
     LayoutPlan plan;
-    std::vector<CATDialog*> unplaced;
     for (CATDialog* child : iChildren) {
-        if (!Inspector::HasGridConstraints(*child)) {
-            unplaced.push_back(child);
-            continue;
-        }
         const CATDlgGridConstraints place = Inspector::GridConstraints(*child);
-        Cell cell{child,
-                  std::max<int>(0, place.Row),
-                  std::max<int>(0, place.Column),
-                  std::max<int>(1, place.V_Span),
-                  std::max<int>(1, place.H_Span),
-                  place.Justification};
-        plan.rows = std::max(plan.rows, cell.row + cell.rowSpan);
+        const Cell cell{child,
+                        std::max<int>(0, place.Row),
+                        std::max<int>(0, place.Column),
+                        std::max<int>(1, place.V_Span),
+                        std::max<int>(1, place.H_Span),
+                        place.Justification};
         plan.columns = std::max(plan.columns, cell.column + cell.columnSpan);
+        if (Inspector::HasGridConstraints(*child))
+            plan.rows = std::max(plan.rows, cell.row + cell.rowSpan);
         plan.cells.push_back(cell);
     }
-    for (CATDialog* child : unplaced) {
-        plan.cells.push_back(Cell{child, plan.rows++, 0, 1, 1, CATGRID_LEFT | CATGRID_TOP});
-        plan.columns = std::max(plan.columns, 1);
-    }
+    for (Cell& cell : plan.cells)
+        if (!Inspector::HasGridConstraints(*cell.child))
+            cell.row = plan.rows++;
     for (int row = 0; row < plan.rows; ++row)
         plan.rowStretches.push_back(Inspector::IsGridRowResizable(iContainer, row));
     for (int column = 0; column < plan.columns; ++column)
@@ -221,7 +226,7 @@ LayoutPlan PlanLayout(const CATDialog& iContainer) {
     const std::vector<CATDialog*> children = ShownChildren(iContainer);
     if (children.empty())
         return LayoutPlan();
-    if (dynamic_cast<const CATDlgTabContainer*>(&iContainer) != nullptr)
+    if (Inspector::HoldsPages(iContainer))
         return PlanPages(children);
     if ((Inspector::Style(iContainer) & CATDlgGridLayout) != 0)
         return PlanGrid(iContainer, children);

@@ -13,8 +13,22 @@ struct State {
     std::vector<Message> journal;
     std::deque<int> answers;
     MessageFrontEnd* frontEnd = nullptr;
-    int waiting = 0;
 };
+
+// A message that waits for its answer.
+class Waiting {
+  public:
+    Waiting() { ++_count; }
+    ~Waiting() { --_count; }
+    Waiting(const Waiting&) = delete;
+    Waiting& operator=(const Waiting&) = delete;
+    static bool IsAny() { return _count > 0; }
+
+  private:
+    static int _count;
+};
+
+int Waiting::_count = 0;
 
 State& Current() {
     static auto* state = new State;
@@ -31,10 +45,8 @@ int AnswerFor(const Message& iMessage) {
     if (state.frontEnd == nullptr)
         return static_cast<int>(CATDlgWndOK);
     EventScope::Flush();
-    ++state.waiting;
-    const int answer = state.frontEnd->Show(iMessage);
-    --state.waiting;
-    return answer;
+    const Waiting waiting;
+    return state.frontEnd->Show(iMessage);
 }
 
 } // namespace
@@ -62,7 +74,7 @@ MessageFrontEnd* Messages::SetFrontEnd(MessageFrontEnd* iFrontEnd) {
 }
 
 bool Messages::IsWaiting() {
-    return Current().waiting > 0;
+    return Waiting::IsAny();
 }
 
 int Messages::Ask(Message iMessage) {

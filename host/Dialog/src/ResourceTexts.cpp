@@ -11,15 +11,18 @@ namespace {
 // there.
 std::optional<std::string> SearchFiles(const CATDialog& iPanel, ResourceTexts::Search iSearch,
                                        const std::string& iKey, const std::string& iOtherKey) {
+    std::string searched;
     for (int level = 0;; ++level) {
-        const char* file = iPanel.GetResourceFilename(level);
-        if (file == nullptr || *file == '\0')
+        const char* name = iPanel.GetResourceFilename(level);
+        const std::string file = name == nullptr ? std::string() : name;
+        if (file.empty() || file == searched)
             return std::nullopt;
         std::optional<std::string> text = iSearch(file, iKey);
         if (!text.has_value() && iOtherKey != iKey)
             text = iSearch(file, iOtherKey);
         if (text.has_value())
             return text;
+        searched = file;
     }
 }
 

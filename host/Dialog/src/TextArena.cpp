@@ -1,5 +1,6 @@
 #include "TextArena.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace host {
@@ -32,7 +33,7 @@ std::size_t BytesOf(std::string_view iText) {
 
 } // namespace
 
-const char* TextArena::Keep(std::string_view iText) {
+const char* TextArena::KeepAny(std::string_view iText) {
     char* const room = Reserve(BytesOf(iText));
     Write(room, iText);
     return room;
@@ -75,7 +76,7 @@ void TextArena::Clear() {
 // block of an arena is small, for the many lists with a few rows.
 char* TextArena::Reserve(std::size_t iBytes) {
     if (iBytes > _left) {
-        const std::size_t regular = _blocks.empty() ? blockBytes / 64 : blockBytes;
+        const std::size_t regular = std::clamp(_taken, blockBytes / 64, blockBytes);
         const bool isLarge = iBytes > regular / 4;
         const std::size_t size = isLarge ? iBytes : regular;
         _blocks.push_back(std::unique_ptr<char[]>(new char[size]));

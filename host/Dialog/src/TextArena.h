@@ -12,7 +12,9 @@ namespace host {
 class TextArena {
   public:
     // Keeps a copy. The address holds until Clear.
-    const char* Keep(std::string_view iText);
+    const char* Keep(std::string_view iText) {
+        return iText.size() < 128 && iText.size() < _left ? KeepShort(iText) : KeepAny(iText);
+    }
     // Writes iText over a kept text when it takes no more room; false when it does not fit.
     bool Overwrite(const char* ioKept, std::string_view iText);
     // Counts a kept text as no longer used.
@@ -24,6 +26,15 @@ class TextArena {
     std::size_t BytesAbandoned() const { return _abandoned; }
 
   private:
+    // A text of up to 127 bytes for which the current block has room: nearly all.
+    const char* KeepShort(std::string_view iText) {
+        char* const kept = _next;
+        *_next++ = static_cast<char>(iText.size());
+        _next += iText.copy(_next, iText.size());
+        _left -= iText.size() + 1;
+        return kept;
+    }
+    const char* KeepAny(std::string_view iText);
     char* Reserve(std::size_t iBytes);
 
     static constexpr std::size_t blockBytes = 65536;

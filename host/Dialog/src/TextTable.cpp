@@ -12,6 +12,7 @@ TextTable& TextTable::operator=(const TextTable& iOther) {
     if (this == &iOther)
         return *this;
     Clear();
+    _columns = 0;
     SetColumns(iOther._columns);
     for (int row = 0; row < iOther._rows; ++row) {
         AppendRow();

@@ -42,8 +42,10 @@ class TextTable {
     static constexpr int rowsPerBlock = 512;
 
     CellText& At(int iRow, int iColumn) {
-        return _blocks[static_cast<std::size_t>(iRow / rowsPerBlock)]
-                      [static_cast<std::size_t>((iRow % rowsPerBlock) * _columns + iColumn)];
+        const std::size_t row = static_cast<std::size_t>(iRow);
+        const std::size_t rowInBlock = row % rowsPerBlock;
+        return _blocks[row / rowsPerBlock]
+                      [rowInBlock * static_cast<std::size_t>(_columns) + static_cast<std::size_t>(iColumn)];
     }
     CellText At(int iRow, int iColumn) const { return const_cast<TextTable*>(this)->At(iRow, iColumn); }
     void Grow();

@@ -54,6 +54,10 @@ void WidgetTree::Join(CATDialog& ioWidget) {
     }
     if (ioWidget.GetName().GetLengthInChar() == 0)
         Misuse::Record("a widget was made without a name");
+    Announce(ioWidget);
+}
+
+void WidgetTree::Announce(CATDialog& ioWidget) {
     if (isIndexed)
         Names()[ioWidget.GetName().ConvertToChar()].push_back(&ioWidget);
     if (CATDialog::_isWatched)
@@ -118,7 +122,6 @@ void WidgetTree::Index(CATDialog& ioWidget) {
         Index(*child);
 }
 
-// Below the main window, and neither the widget nor a parent on its way out.
 bool WidgetTree::IsReachable(const CATDialog& iWidget) {
     const CATDialog* widget = &iWidget;
     for (; widget != nullptr && widget != root; widget = widget->_parent)

@@ -14,6 +14,8 @@ namespace host {
 class WidgetTree {
   public:
     static void Join(CATDialog& ioWidget);
+    // Makes a widget known to watchers and by its name.
+    static void Announce(CATDialog& ioWidget);
     static void Leave(CATDialog& ioWidget);
 
     static void JoinWindow(CATDlgWindow& ioWindow);
@@ -24,13 +26,15 @@ class WidgetTree {
     // the tree; from then on the index is kept up to date.
     static std::vector<CATDialog*> Named(const std::string& iName);
 
+    // Whether the widget hangs below the main window, and neither it nor a parent is on its way out.
+    static bool IsReachable(const CATDialog& iWidget);
+
     // Null while there is no application.
     static void SetRoot(CATDialog* iRoot);
     static CATDialog* Root();
 
   private:
     static void Index(CATDialog& ioWidget);
-    static bool IsReachable(const CATDialog& iWidget);
 };
 
 } // namespace host

@@ -50,7 +50,8 @@ class CATError : public CATBaseUnknown {
     const char* GetMsgCatalog() const { return _catalog.ConvertToChar(); }
 
     // Makes a result. Kind 1: S_OK, nothing attached. Kind 2: takes iError over, makes it the last error and
-    // returns E_FAIL. Any other kind: E_FAIL without an error object. iFile and iLine tell where.
+    // returns E_FAIL. Any other kind: E_FAIL without an error object;
+    // the last error is forgotten. iFile and iLine tell where.
     static HRESULT GetReturn(int iKind, CATError* iError, void* iReserved, const char* iFile, int iLine);
 
     // The error behind a failing result, with a reference for the caller; null for a success or when there is

@@ -4,16 +4,14 @@
 
 namespace host {
 
-namespace {
-CATCommand* active = nullptr;
+CATCommand* ActiveCommand::_active = nullptr;
+
+void CommandInspection::SetActiveCommand(CATCommand* iCommand) {
+    host::ActiveCommand::Set(iCommand);
 }
 
-CATCommand* ActiveCommand::Get() { return active; }
-
-void ActiveCommand::Set(CATCommand* iCommand) { active = iCommand; }
-
-void CommandInspection::SetActiveCommand(CATCommand* iCommand) { host::ActiveCommand::Set(iCommand); }
-
-CATCommand* CommandInspection::ActiveCommand() { return host::ActiveCommand::Get(); }
+CATCommand* CommandInspection::ActiveCommand() {
+    return host::ActiveCommand::Get();
+}
 
 } // namespace host

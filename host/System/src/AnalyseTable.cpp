@@ -46,23 +46,18 @@ void AnalyseTable::End(CATCommand& ioCommand) {
     table->Sweep();
 }
 
-bool AnalyseTable::Run(CATCommand& ioOwner, CATCommand* iSender, CATCommand* iFrom,
-                       CATNotification& ioNotification) {
-    AnalyseTable* const table = ioOwner._analyseTable;
-    if (table == nullptr)
-        return false;
+bool AnalyseTable::RunEntries(CATCommand* const& iSender, CATCommand* const& iFrom,
+                              CATNotification& ioNotification) {
     bool ran = false;
-    const std::size_t count = table->_entries.size();
-    ++table->_running;
-    for (std::size_t index = 0; index < count && table->_owner != nullptr; ++index) {
-        const Entry entry = table->_entries[index];
-        if (!table->Matches(entry, iSender, ioNotification))
+    const std::size_t count = _entries.size();
+    const Running running(*this);
+    for (std::size_t index = 0; index < count && _owner != nullptr; ++index) {
+        if (!Matches(_entries[index], iSender, ioNotification))
             continue;
         ran = true;
-        (table->_owner->*entry.method)(iFrom, &ioNotification, entry.data);
+        const Entry entry = _entries[index]; // a callback may add entries
+        (_owner->*entry.method)(iFrom, &ioNotification, entry.data);
     }
-    --table->_running;
-    table->Sweep();
     return ran;
 }
 
@@ -91,6 +86,7 @@ void AnalyseTable::EndEntry(Entry& ioEntry) {
     if (ioEntry.method == nullptr)
         return;
     ioEntry.method = nullptr;
+    _hasEndedEntries = true;
     --liveEntries;
     CATCommand* const publisher = ioEntry.publisher;
     if (publisher != nullptr && publisher != _owner && publisher->_analyseTable != nullptr)
@@ -118,6 +114,9 @@ void AnalyseTable::Sweep() {
         delete this;
         return;
     }
+    if (!_hasEndedEntries)
+        return;
+    _hasEndedEntries = false;
     _entries.erase(std::remove_if(_entries.begin(), _entries.end(),
                                   [](const Entry& iEntry) { return iEntry.method == nullptr; }),
                    _entries.end());

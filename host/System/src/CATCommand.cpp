@@ -6,6 +6,8 @@
 #include "InternedNames.h"
 #include "host/DelayedDestruction.h"
 
+#include <memory>
+
 CATImplementClass(CATCommand, Implementation, CATEventSubscriber, CATNull);
 
 namespace {
@@ -21,6 +23,12 @@ host::AnalyseTable::Entry MakeEntry(CATCommand* iPublisher, CATNotification* iNo
     entry.data = iData;
     return entry;
 }
+
+// The reference that a sent notification hands over; released when its climb ends, by an error as well.
+struct NotificationReleaser {
+    void operator()(CATNotification* iNotification) const { iNotification->Release(); }
+};
+typedef std::unique_ptr<CATNotification, NotificationReleaser> SentNotification;
 
 } // namespace
 
@@ -46,11 +54,11 @@ CATCommand::~CATCommand() {
 void CATCommand::SendNotification(CATCommand* iToCommand, CATNotification* iNotification) {
     if (iNotification == nullptr)
         return;
-    if (iToCommand != nullptr && !_isDoomed) {
-        host::Climb climb(*this);
-        climb.Run(*iToCommand, *iNotification);
-    }
-    iNotification->Release();
+    const SentNotification sent(iNotification);
+    if (iToCommand == nullptr || _isDoomed)
+        return;
+    host::Climb climb(*this);
+    climb.Run(*iToCommand, *iNotification);
 }
 
 CATNotifPropagationMode CATCommand::AnalyseNotification(CATCommand*, CATNotification*) {

@@ -78,8 +78,10 @@ HRESULT CATError::GetReturn(int iKind, CATError* iError, void*, const char* iFil
     host::ReturnJournal::Add(iKind, iFile, iLine);
     if (iKind == CATReturnKindSuccess)
         return S_OK;
-    if (iKind != CATReturnKindError)
+    if (iKind != CATReturnKindError) {
+        CATCleanLastError(); // an older error is not the reason of this failure
         return E_FAIL;
+    }
     if (iError != nullptr && iError->_sourceLine == 0) {
         iError->_sourceFile = CATString(iFile);
         iError->_sourceLine = iLine;

@@ -61,7 +61,11 @@ class Reader {
 
     std::optional<std::string> ReadText(int iLine, const std::string& iKey) {
         if (AtEnd() || Peek() != '"') {
-            Complain(iLine, "the text of '" + iKey + "' is not in quotes");
+            const std::string message = "the text of '" + iKey + "' is not in quotes";
+            if (_line == iLine)
+                Complain(iLine, message);
+            else
+                Report(iLine, message); // the line behind it is another entry
             return std::nullopt;
         }
         Next();

@@ -11,16 +11,9 @@ namespace {
 int undelivered = 0;
 }
 
-Climb::Climb(CATCommand& iSender) : _sender(&iSender), _from(&iSender), _outer(_innermost) {
-    _innermost = this;
-}
-
-Climb::~Climb() {
-    _innermost = _outer;
-}
-
 void Climb::Run(CATCommand& iTarget, CATNotification& ioNotification) {
     _next = &iTarget;
+    _hasMetActive = _sender == ActiveCommand::Get();
     if (AnalyseTable::Run(*_sender, _sender, _sender, ioNotification))
         return;
     while (_next != nullptr) {

@@ -8,8 +8,10 @@ namespace host {
 // One notification on its way up. Commands may die meanwhile: their destructors take them out of every climb.
 class Climb {
   public:
-    explicit Climb(CATCommand& iSender);
-    ~Climb();
+    explicit Climb(CATCommand& iSender) : _sender(&iSender), _from(&iSender), _outer(_innermost) {
+        _innermost = this;
+    }
+    ~Climb() { _innermost = _outer; }
     Climb(const Climb&) = delete;
     Climb& operator=(const Climb&) = delete;
 

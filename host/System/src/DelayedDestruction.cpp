@@ -26,8 +26,11 @@ void DelayedDestruction::Queue(CATCommand& ioCommand) {
 }
 
 void DelayedDestruction::Drain() {
-    while (!Waiting().empty())
-        delete Waiting().front(); // its destructor takes it off the queue
+    while (!Waiting().empty()) {
+        CATCommand* const next = Waiting().front();
+        Waiting().pop_front(); // first, so that a destructor that drains does not meet it again
+        delete next;
+    }
 }
 
 void DelayedDestruction::Forget(CATCommand& ioCommand) {

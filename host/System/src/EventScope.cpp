@@ -28,7 +28,7 @@ void EventScope::RunIdle() {
 void EventScope::Settle() {
     ++_depth;
     Flush();
-    if (DelayedDestruction::Pending() > 0) {
+    while (DelayedDestruction::Pending() > 0) {
         DelayedDestruction::Drain();
         Flush();
     }

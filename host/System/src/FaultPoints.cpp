@@ -64,7 +64,8 @@ bool FaultPoints::ArmFromEnvironment() {
     const char* last = text.data() + text.size();
     int number = 0;
     const std::from_chars_result result = std::from_chars(first, last, number);
-    if (result.ec != std::errc() || result.ptr != last || number < 1)
+    const bool isNameMissing = colon == 0;
+    if (isNameMissing || result.ec != std::errc() || result.ptr != last || number < 1)
         return false;
     FailCall(number, name);
     return true;

@@ -2,29 +2,11 @@
 
 namespace host {
 
-namespace {
-CATBaseUnknown* youngest = nullptr;
-}
-
-void LiveObjects::Join(CATBaseUnknown& ioObject) {
-    ioObject._nextLive = youngest;
-    if (youngest != nullptr)
-        youngest->_previousLive = &ioObject;
-    youngest = &ioObject;
-}
-
-void LiveObjects::Leave(CATBaseUnknown& ioObject) {
-    if (ioObject._previousLive != nullptr)
-        ioObject._previousLive->_nextLive = ioObject._nextLive;
-    else
-        youngest = ioObject._nextLive;
-    if (ioObject._nextLive != nullptr)
-        ioObject._nextLive->_previousLive = ioObject._previousLive;
-}
+CATBaseUnknown* LiveObjects::_youngest = nullptr;
 
 std::vector<CATBaseUnknown*> LiveObjects::All() {
     std::vector<CATBaseUnknown*> objects;
-    for (CATBaseUnknown* object = youngest; object != nullptr; object = object->_nextLive)
+    for (CATBaseUnknown* object = _youngest; object != nullptr; object = object->_nextLive)
         objects.push_back(object);
     return objects;
 }

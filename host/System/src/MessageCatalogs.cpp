@@ -49,17 +49,28 @@ void ForgetFiles() {
     ++generation;
 }
 
+// A file that is read again reports its problems anew.
+void ForgetProblemsOf(const std::string& iPath) {
+    std::vector<CatalogProblem>& problems = Current().problems;
+    problems.erase(
+        std::remove_if(problems.begin(), problems.end(),
+                       [&iPath](const CatalogProblem& iProblem) { return iProblem.file == iPath; }),
+        problems.end());
+}
+
 void ReadFrom(const std::vector<std::string>& iFolders, const std::string& iFile, CatalogTexts& ioTexts) {
     for (const std::string& folder : iFolders) {
+        const std::string path = folder + "/" + iFile;
+        ForgetProblemsOf(path);
         CatalogTexts texts;
-        if (CatalogFile::Read(folder + "/" + iFile, texts, Current().problems))
+        if (CatalogFile::Read(path, texts, Current().problems))
             ioTexts.merge(texts);
     }
 }
 
 const CatalogTexts& TextsOf(const std::string& iLanguage, const std::string& iName, const char* iExtension) {
     static const CatalogTexts none;
-    if (!IsPlainName(iName))
+    if (!IsPlainName(iName) || (!iLanguage.empty() && !IsPlainName(iLanguage)))
         return none;
     const std::string file = (iLanguage.empty() ? std::string() : iLanguage + "/") + iName + iExtension;
     const auto known = Current().files.find(file);
@@ -106,7 +117,7 @@ std::optional<std::string> MessageCatalogs::Text(const std::string& iCatalog, co
     if (FaultPoints::Fails("message look-up"))
         return std::nullopt;
     const std::string& language = Current().language;
-    if (IsPlainName(language)) {
+    if (!language.empty()) {
         std::optional<std::string> text = Find(TextsOf(language, iCatalog, ".CATNls"), iKey);
         if (text.has_value())
             return text;

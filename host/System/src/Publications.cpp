@@ -17,11 +17,9 @@ void Publications::End(CATBaseUnknown& ioPublisher) {
     Publications* const publications = ioPublisher._publications;
     ioPublisher._publications = nullptr;
     publications->publisher = nullptr;
-    ++publications->dispatching;
+    const Dispatching ending(*publications);
     for (Subscription* each = publications->first; each != nullptr; each = each->next)
         publications->EndSubscription(*each);
-    --publications->dispatching;
-    publications->Sweep();
 }
 
 void Publications::Append(Subscription& ioSubscription) {
@@ -36,15 +34,13 @@ void Publications::Dispatch(CATNotification& ioNotification) {
         return;
     CATBaseUnknown* const source = publisher;
     const Subscription* const stop = last;
-    ++dispatching;
+    const Dispatching dispatch(*this);
     for (Subscription* each = first; each != nullptr; each = each->next) {
         if (each->subscriber != nullptr && ioNotification.IsAKindOf(each->event) != 0)
             (each->subscriber->*each->method)(each->event, source, &ioNotification, each->data, each->id);
         if (each == stop)
             break;
     }
-    --dispatching;
-    Sweep();
 }
 
 void Publications::EndSubscription(Subscription& ioSubscription) {

@@ -43,6 +43,23 @@ struct Publications {
     void EndSubscription(Subscription& ioSubscription);
 
   private:
+    // One dispatch; what has ended meanwhile is freed when it is over, by an error as well.
+    class Dispatching {
+      public:
+        explicit Dispatching(Publications& ioPublications) : _publications(ioPublications) {
+            ++_publications.dispatching;
+        }
+        ~Dispatching() {
+            --_publications.dispatching;
+            _publications.Sweep();
+        }
+        Dispatching(const Dispatching&) = delete;
+        Dispatching& operator=(const Dispatching&) = delete;
+
+      private:
+        Publications& _publications;
+    };
+
     void Unlink(Subscription& ioSubscription);
     void Sweep();
 };

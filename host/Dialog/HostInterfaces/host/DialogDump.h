@@ -9,8 +9,8 @@ namespace host {
 
 // A readable picture of a dialog tree, one widget a line, children indented by two blanks:
 //
-//     CATDlgDialog FeatureDlg title="Feature"
-//       CATDlgCombo TypeSelectCombo lines=3 selected=1 "Counterbore"
+//     CATDlgDialog FeatureDlg title="Feature" buttons=OK*,Cancel
+//       CATDlgCombo TypeSelectCombo lines=["Hole", "Counterbore"] selected=1
 //       CATDlgEditor Input1Edt hidden read-only text="Point.1"
 //
 // Only what differs from a widget's plain state is written, so that the text is stable enough for golden

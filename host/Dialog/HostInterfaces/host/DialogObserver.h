@@ -18,8 +18,9 @@ enum ChangeKind : unsigned int {
     ChangeState = 32,     // checked or unchecked, default button
     ChangeHelp = 64,      // short, long or status help
     ChangeIcon = 128,
-    ChangeLayout = 256,  // attachments, grid, children, visible sizes
-    ChangeGeometry = 512 // place and extent
+    ChangeLayout = 256,   // attachments, grid, children, visible sizes
+    ChangeGeometry = 512, // place and extent
+    ChangeAll = 1023
 };
 
 // Everything that happened between two deliveries. Process in this order: destroyed, created, changed. A

@@ -9,6 +9,7 @@
 
 class CATDlgCheckButton;
 class CATDlgCombo;
+class CATDlgDocument;
 class CATDlgEditor;
 class CATDlgMultiList;
 class CATDlgPushButton;
@@ -31,11 +32,14 @@ namespace host {
 class DialogUser {
   public:
     static Outcome Press(CATDlgPushButton& ioButton);
-    // A standard button of a dialog: CATDlgWndOK, CATDlgWndCANCEL, CATDlgWndAPPLY or CATDlgWndHELP.
+    // A standard button of a dialog: CATDlgWndOK, CATDlgWndCANCEL, CATDlgWndAPPLY, CATDlgWndCLOSE or
+    // CATDlgWndHELP.
     static Outcome PressStandardButton(CATDlgDialog& ioDialog, CATULong iButton);
     // Enter presses the default button, where there is one; Escape presses Cancel or else closes the window.
     static Outcome PressEnter(CATDlgDialog& ioDialog);
     static Outcome PressEscape(CATDlgDialog& ioDialog);
+    // Escape where no dialog takes the key.
+    static Outcome PressEscape(CATDlgDocument& ioMainWindow);
 
     // Opens the list of a combo; choosing a line does not need it.
     static Outcome OpenList(CATDlgCombo& ioCombo);
@@ -46,8 +50,9 @@ class DialogUser {
     static Outcome Check(CATDialog& ioButton);
     static Outcome Uncheck(CATDialog& ioButton);
 
-    // Replaces the text of an editor, and leaves the field.
+    // Replaces the text of an editor; the text that is there already is no change.
     static Outcome Type(CATDlgEditor& ioEditor, const std::string& iText);
+    // Goes on to another field.
     static Outcome LeaveField(CATDlgEditor& ioEditor);
 
     static Outcome Spin(CATDlgSpinner& ioSpinner, int iSteps);
@@ -69,6 +74,19 @@ class DialogUser {
     static Outcome CanUse(const CATDialog& iWidget);
     // Whether a person sees the widget: it and all its parents are shown, and its page is in front.
     static bool CanSee(const CATDialog& iWidget);
+
+  private:
+    // What keeps a person from using a widget: the first of each kind, from the widget up to below the main
+    // window; null for none.
+    struct Obstacles {
+        const CATDialog* doomed = nullptr;
+        const CATDialog* hidden = nullptr;
+        const CATDialog* behind = nullptr; // a page that is not in front
+        const CATDialog* disabled = nullptr;
+        bool isInWindow = false; // the way up ends at the main window
+    };
+    static Obstacles FindObstacles(const CATDialog& iWidget);
+    static bool IsPageBehind(const CATDialog& iWidget);
 };
 
 } // namespace host

@@ -48,11 +48,15 @@ class Inspector {
     // All windows below the main window, in order of creation.
     static std::vector<CATDlgWindow*> Windows();
 
+    // Whether the widget is a window, and whether it is a tab container.
+    static bool IsWindow(const CATDialog& iWidget);
+    static bool HoldsPages(const CATDialog& iWidget);
+
     static CATDlgStyle Style(const CATDialog& iWidget);
     // Whether the widget and all its parents are shown or enabled; the main window counts as both.
     static bool IsShownWithParents(const CATDialog& iWidget);
     static bool IsEnabledWithParents(const CATDialog& iWidget);
-    // Whether the widget draws its title.
+    // Whether the widget draws its title. A label with an icon draws the icon alone.
     static bool ShowsTitle(const CATDialog& iWidget);
     // The names set by the program, or those of the resource file.
     static IconNames Icons(const CATDialog& iWidget);

@@ -23,8 +23,20 @@ class LiveObjects {
 
   private:
     friend class ::CATBaseUnknown;
-    static void Join(CATBaseUnknown& ioObject);
-    static void Leave(CATBaseUnknown& ioObject);
+    static void Join(CATBaseUnknown& ioObject) {
+        ioObject._nextLive = _youngest;
+        if (_youngest != nullptr)
+            _youngest->_previousLive = &ioObject;
+        _youngest = &ioObject;
+    }
+    static void Leave(CATBaseUnknown& ioObject) {
+        (ioObject._previousLive == nullptr ? _youngest : ioObject._previousLive->_nextLive) =
+            ioObject._nextLive;
+        if (ioObject._nextLive != nullptr)
+            ioObject._nextLive->_previousLive = ioObject._previousLive;
+    }
+
+    static CATBaseUnknown* _youngest;
 };
 
 } // namespace host

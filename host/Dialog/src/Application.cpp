@@ -13,12 +13,13 @@
 namespace {
 
 CATApplicationFrame* frame = nullptr;
+host::Application* ownApplication = nullptr; // made because nobody else made one
 
 } // namespace
 
 CATApplicationFrame* CATApplicationFrame::GetFrame() {
     if (frame == nullptr)
-        new host::Application; // lasts to the end of the process
+        ownApplication = new host::Application; // lasts until there is another one
     return frame;
 }
 
@@ -29,7 +30,10 @@ CATDialog* CATApplicationFrame::GetMainWindow() const {
 namespace host {
 
 Application::Application() {
-    WidgetTree::SetRoot(new CATDlgDocument(nullptr, "MainWindow"));
+    delete ownApplication;
+    ownApplication = nullptr;
+    // The main window is not among the widgets whose allocation fails on request: nothing runs without it.
+    WidgetTree::SetRoot(::new CATDlgDocument(nullptr, "MainWindow"));
     frame = new CATApplicationFrame;
 }
 

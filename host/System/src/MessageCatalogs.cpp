@@ -60,7 +60,8 @@ void ForgetProblemsOf(const std::string& iPath) {
 
 void ReadFrom(const std::vector<std::string>& iFolders, const std::string& iFile, CatalogTexts& ioTexts) {
     for (const std::string& folder : iFolders) {
-        const std::string path = folder + "/" + iFile;
+        std::string path = folder;
+        path.append("/").append(iFile);
         ForgetProblemsOf(path);
         CatalogTexts texts;
         if (CatalogFile::Read(path, texts, Current().problems))

@@ -18,8 +18,12 @@ void Publications::End(CATBaseUnknown& ioPublisher) {
     ioPublisher._publications = nullptr;
     publications->publisher = nullptr;
     const Dispatching ending(*publications);
-    for (Subscription* each = publications->first; each != nullptr; each = each->next)
+    Subscription* each = publications->first;
+    while (each != nullptr) {
+        Subscription* const following = each->next;
         publications->EndSubscription(*each);
+        each = following;
+    }
 }
 
 void Publications::Append(Subscription& ioSubscription) {
@@ -95,8 +99,12 @@ void SubscriptionChain::Remove(Subscription& ioSubscription) {
 }
 
 void SubscriptionChain::EndAll(CATEventSubscriber& ioSubscriber) {
-    while (ioSubscriber._firstSubscription != nullptr)
-        ioSubscriber._firstSubscription->publications->EndSubscription(*ioSubscriber._firstSubscription);
+    Subscription* each = ioSubscriber._firstSubscription;
+    while (each != nullptr) {
+        Subscription* const following = each->nextOfSubscriber;
+        each->publications->EndSubscription(*each);
+        each = following;
+    }
 }
 
 } // namespace host

@@ -13,7 +13,7 @@ namespace host {
 //
 // One at a time. Its end destroys the main window with every dialog that is left, drains delayed destruction
 // and forgets messages, misuses and the last error. Without one, CATApplicationFrame::GetFrame() makes an
-// application of its own that lasts to the end of the process.
+// application of its own that lasts until another one is made.
 class Application {
   public:
     Application();

@@ -1,0 +1,96 @@
+#include "GridArranger.h"
+
+#include "Peer.h"
+#include "PeerTree.h"
+
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+#include <algorithm>
+#include <memory>
+
+namespace desktop {
+
+namespace {
+
+// The height of the highest kind of field of one line.
+int FieldHeight() {
+    QComboBox box;
+    box.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    return std::max({box.sizeHint().height(), QLineEdit().sizeHint().height(),
+                     QPushButton(QStringLiteral("X")).sizeHint().height()});
+}
+
+// A text or a round or square box with its text, which is lower than a field.
+bool IsLow(const QWidget& iWidget) {
+    return iWidget.inherits("QLabel") || iWidget.inherits("QRadioButton") || iWidget.inherits("QCheckBox");
+}
+
+Qt::Alignment AlignmentOf(unsigned int iSides) {
+    Qt::Alignment alignment;
+    const bool isLeft = (iSides & CATGRID_LEFT) != 0;
+    const bool isRight = (iSides & CATGRID_RIGHT) != 0;
+    if (isLeft != isRight)
+        alignment |= isLeft ? Qt::AlignLeft : Qt::AlignRight;
+    else if (!isLeft)
+        alignment |= Qt::AlignHCenter;
+    const bool isTop = (iSides & CATGRID_TOP) != 0;
+    const bool isBottom = (iSides & CATGRID_BOTTOM) != 0;
+    if (isTop != isBottom)
+        alignment |= isTop ? Qt::AlignTop : Qt::AlignBottom;
+    else if (!isTop)
+        alignment |= Qt::AlignVCenter;
+    return alignment;
+}
+
+// Gives each cell its stretch; where none stretches, an empty cell behind them takes the surplus space.
+template<class SetStretch>
+void Stretch(const std::vector<bool>& iStretches, const SetStretch& iSetStretch) {
+    const int count = static_cast<int>(iStretches.size());
+    for (int cell = 0; cell < count; ++cell)
+        iSetStretch(cell, iStretches[static_cast<std::size_t>(cell)] ? 1 : 0);
+    if (std::find(iStretches.begin(), iStretches.end(), true) == iStretches.end())
+        iSetStretch(count, 1);
+}
+
+} // namespace
+
+GridArranger::GridArranger(const PeerTree& iTree, const CATDialog& iContainer, QWidget& ioInside)
+    : _tree(iTree), _inside(ioInside), _plan(host::PlanLayout(iContainer)), _fieldHeight(FieldHeight()) {}
+
+void GridArranger::Arrange(Edge iEdge) {
+    delete _inside.layout();
+    auto owned = std::make_unique<QGridLayout>();
+    QGridLayout* const grid = owned.get();
+    _inside.setLayout(owned.release());
+    if (iEdge == NoMargins)
+        grid->setContentsMargins(0, 0, 0, 0);
+    for (const host::Cell& cell : _plan.cells)
+        Place(cell, *grid);
+    Stretch(_plan.rowStretches, [grid](int iRow, int iStretch) { grid->setRowStretch(iRow, iStretch); });
+    Stretch(_plan.columnStretches,
+            [grid](int iColumn, int iStretch) { grid->setColumnStretch(iColumn, iStretch); });
+}
+
+void GridArranger::Place(const host::Cell& iCell, QGridLayout& ioGrid) const {
+    const Peer* const peer = _tree.PeerOf(*iCell.child);
+    if (peer == nullptr)
+        return;
+    QWidget* const widget = peer->Widget();
+    if (peer->IsOneLine())
+        widget->setMinimumHeight(!IsLow(*widget) || StandsBesideField(iCell) ? _fieldHeight : 0);
+    ioGrid.addWidget(widget, iCell.row, iCell.column, iCell.rowSpan, iCell.columnSpan,
+                     AlignmentOf(iCell.sides));
+}
+
+bool GridArranger::StandsBesideField(const host::Cell& iCell) const {
+    return std::any_of(_plan.cells.begin(), _plan.cells.end(), [this, &iCell](const host::Cell& iOther) {
+        const Peer* const peer = _tree.PeerOf(*iOther.child);
+        return iOther.row == iCell.row && peer != nullptr && !IsLow(*peer->Widget()) &&
+               (peer->Field() != nullptr || peer->Inside() != nullptr);
+    });
+}
+
+} // namespace desktop

@@ -1,0 +1,47 @@
+#ifndef desktop_KeyboardAccess_H
+#define desktop_KeyboardAccess_H
+
+#include "Mnemonics.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QString>
+
+#include <vector>
+
+class CATDialog;
+class QWidget;
+
+namespace desktop {
+
+class LabelPeer;
+class Peer;
+class PeerTree;
+class WindowPeer;
+
+// Makes everything in a window reachable without mouse and named for who does not see it: Tab goes through
+// the fields in the order of creation, a label stands for the field beside it, captions get mnemonics, and
+// every field has an accessible name.
+class KeyboardAccess {
+  public:
+    KeyboardAccess(const PeerTree& iTree, WindowPeer& ioWindow);
+    void Provide();
+
+  private:
+    void Collect(const CATDialog& iContainer);
+    void PairLabels(const CATDialog& iContainer);
+    Peer* FirstFieldIn(CATDialog& ioWidget) const;
+    void OrderTabs() const;
+    void ShowCaptions();
+    void NameFields() const;
+    QString NameOf(const Peer& iPeer) const;
+
+    const PeerTree& _tree;
+    WindowPeer& _window;
+    Mnemonics _mnemonics;
+    std::vector<Peer*> _peers;                       // of the window, parents before children
+    QHash<const QWidget*, const LabelPeer*> _labels; // by the field that they stand for
+};
+
+} // namespace desktop
+
+#endif

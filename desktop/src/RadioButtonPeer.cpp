@@ -1,0 +1,46 @@
+#include "RadioButtonPeer.h"
+
+#include "CATDlgRadioButton.h"
+#include "PeerTree.h"
+#include "Texts.h"
+#include "host/DialogUser.h"
+#include "host/Inspector.h"
+
+#include <QtWidgets/QRadioButton>
+
+namespace desktop {
+
+RadioButtonPeer::RadioButtonPeer(PeerTree& ioTree, CATDlgRadioButton& ioButton, QWidget* iParent)
+    : Peer(ioTree, ioButton, new QRadioButton(iParent)), _button(ioButton) {
+    connect(&Button(), &QRadioButton::clicked, this, [this] { Check(); });
+}
+
+QString RadioButtonPeer::Caption() const {
+    return ToQt(_button.GetTitle());
+}
+
+void RadioButtonPeer::ShowCaption(int iMnemonic) {
+    Button().setText(WithMnemonic(Caption(), iMnemonic));
+}
+
+// Qt keeps one button of an exclusive group checked; the host may have none.
+void RadioButtonPeer::ShowState(unsigned int) {
+    Button().setAutoExclusive(false);
+    Button().setChecked(_button.GetState() == CATDlgCheck);
+    Button().setAutoExclusive(true);
+}
+
+// Qt has unchecked another button of the group already; a refusal has to check it again.
+void RadioButtonPeer::Check() {
+    if (Perform([this] { return host::DialogUser::Check(_button); }) || Dialog() == nullptr)
+        return;
+    for (const CATDialog* sibling : host::Inspector::Children(*host::Inspector::Parent(_button)))
+        if (Peer* const peer = Tree().PeerOf(*sibling))
+            peer->Refresh(host::ChangeState);
+}
+
+QRadioButton& RadioButtonPeer::Button() const {
+    return static_cast<QRadioButton&>(*Widget());
+}
+
+} // namespace desktop

@@ -1,0 +1,220 @@
+#include "WindowPeer.h"
+
+#include "CATDlgDialog.h"
+#include "DialogWindow.h"
+#include "GridArranger.h"
+#include "Icons.h"
+#include "PeerTree.h"
+#include "StandardButtons.h"
+#include "Texts.h"
+#include "host/DelayedDestruction.h"
+#include "host/DialogUser.h"
+#include "host/Inspector.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
+#include <QtCore/QScopedValueRollback>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
+#include <QtGui/QWindow>
+#include <QtWidgets/QAbstractScrollArea>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QVBoxLayout>
+
+namespace desktop {
+
+namespace {
+
+// The widgets inside a window, without other windows.
+std::vector<QWidget*> ChildrenOf(const QWidget& iWidget) {
+    std::vector<QWidget*> children;
+    for (QObject* child : iWidget.children())
+        if (child->isWidgetType() && !static_cast<QWidget*>(child)->isWindow())
+            children.push_back(static_cast<QWidget*>(child));
+    return children;
+}
+
+// Lets every layout measure its widgets anew, the innermost first.
+void MeasureAnew(QWidget& ioWidget) {
+    for (QWidget* child : ChildrenOf(ioWidget))
+        MeasureAnew(*child);
+    if (ioWidget.layout() == nullptr)
+        return;
+    ioWidget.layout()->invalidate();
+    ioWidget.updateGeometry();
+}
+
+// Lets every layout place its widgets, the outermost first.
+void PlaceAnew(QWidget& ioWidget) {
+    if (ioWidget.layout() != nullptr)
+        ioWidget.layout()->activate();
+    for (QWidget* child : ChildrenOf(ioWidget))
+        PlaceAnew(*child);
+}
+
+bool IsOnScreen(const QPoint& iTopLeft) {
+    const QPoint titleBar = iTopLeft + QPoint(40, 10);
+    return QGuiApplication::screenAt(titleBar) != nullptr;
+}
+
+} // namespace
+
+WindowPeer::WindowPeer(PeerTree& ioTree, CATDlgWindow& ioWindow, const Peer* iParent)
+    : Peer(ioTree, ioWindow, new DialogWindow(iParent == nullptr ? nullptr : iParent->Widget()->window())),
+      _window(ioWindow), _frame(static_cast<DialogWindow*>(Widget())) {
+    auto* const rows = new QVBoxLayout(_frame);
+    _inside = new QWidget(_frame);
+    rows->addWidget(_inside, 1);
+    const CATDlgDialog* const dialog = AsDialog();
+    _buttons = new StandardButtons(
+        _frame, dialog == nullptr ? std::vector<CATULong>() : host::Inspector::StandardButtons(*dialog),
+        [this](CATULong iButton) { PressStandardButton(iButton); });
+    rows->addWidget(_buttons);
+    rows->setSpacing(2 * _frame->style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing));
+    if (host::Inspector::IsModal(ioWindow))
+        _frame->setWindowModality(Qt::ApplicationModal);
+    _reportPlace.setSingleShot(true);
+    connect(&_reportPlace, &QTimer::timeout, this, [this] { ReportPlace(); });
+    _frame->SetPeer(this);
+}
+
+WindowPeer::~WindowPeer() {
+    if (Widget() != nullptr)
+        _frame->SetPeer(nullptr);
+}
+
+void WindowPeer::Arrange() {
+    GridArranger(Tree(), _window, *_inside).Arrange(GridArranger::NoMargins);
+}
+
+void WindowPeer::FitToContent() {
+    MeasureAnew(*_frame);
+    if (_frame->isHidden())
+        return;
+    PlaceAnew(*_frame); // which sets the least size of the window anew
+    Place();
+}
+
+void WindowPeer::ShowOrHide() {
+    const bool isShown =
+        host::Inspector::IsShownWithParents(_window) && !host::DelayedDestruction::IsDoomed(_window);
+    if (isShown != _frame->isHidden())
+        return;
+    if (!isShown) {
+        _frame->hide();
+        return;
+    }
+    Place();
+    _frame->show();
+    _frame->raise();
+    _frame->activateWindow();
+    KeepPlace();
+}
+
+QImage WindowPeer::Picture() {
+    if (_frame->isHidden()) {
+        MeasureAnew(*_frame);
+        Place();
+    }
+    _frame->grab(); // lets the widgets take their places
+    for (QAbstractScrollArea* area : _frame->findChildren<QAbstractScrollArea*>())
+        QCoreApplication::sendPostedEvents(area, QEvent::MetaCall); // and the scroll bars come and go
+    return _frame->grab().toImage();
+}
+
+void WindowPeer::PressEnter() {
+    CATDlgDialog* const dialog = AsDialog();
+    if (dialog != nullptr && host::Inspector::DefaultButton(*dialog) != 0)
+        Perform([dialog] { return host::DialogUser::PressEnter(*dialog); });
+}
+
+void WindowPeer::PressEscape() {
+    Peer* const typing = Tree().Typing();
+    if (typing != nullptr && typing->Widget()->window() == _frame) {
+        typing->DropText();
+        return;
+    }
+    if (CATDlgDialog* const dialog = AsDialog())
+        Perform([dialog] { return host::DialogUser::PressEscape(*dialog); });
+    else
+        Close();
+}
+
+void WindowPeer::Close() {
+    if (Dialog() != nullptr)
+        Perform([this] { return host::DialogUser::Close(_window); });
+}
+
+// Windows are placed by the window system before they are on the screen; from then on it is the person.
+void WindowPeer::NoteNewPlace(bool iByWindowSystem) {
+    const QWindow* const handle = _frame->windowHandle();
+    const bool isOnScreen = handle != nullptr && handle->isExposed();
+    if (_isPlacing || !iByWindowSystem || !isOnScreen || Tree().IsApplying())
+        KeepPlace();
+    else
+        _reportPlace.start(0);
+}
+
+void WindowPeer::ShowState(unsigned int iKinds) {
+    if ((iKinds & host::ChangeTitle) != 0)
+        _frame->setWindowTitle(
+            ToQt(_window.GetTitle()).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+    if ((iKinds & host::ChangeIcon) != 0)
+        _frame->setWindowIcon(IconOf(Tree(), _window));
+    if (const CATDlgDialog* const dialog = AsDialog())
+        _buttons->ShowDefault(host::Inspector::DefaultButton(*dialog));
+    if ((iKinds & host::ChangeGeometry) != 0 && !_frame->isHidden())
+        Place();
+}
+
+void WindowPeer::PressStandardButton(CATULong iButton) {
+    if (CATDlgDialog* const dialog = AsDialog())
+        Perform([dialog, iButton] { return host::DialogUser::PressStandardButton(*dialog, iButton); });
+}
+
+// Where the program gave no size, it is that of the content; where it gave no place, or one that is on no
+// screen, the window system chooses.
+void WindowPeer::Place() {
+    const QScopedValueRollback<bool> placing(_isPlacing, true);
+    int x = 0;
+    int y = 0;
+    int height = 0;
+    int width = 0;
+    _window.GetRectDimensions(&x, &y, &height, &width);
+    const QSize natural = NaturalSize();
+    _frame->resize(width > 0 ? width : natural.width(), height > 0 ? height : natural.height());
+    const QPoint place(x, y);
+    if (!place.isNull() && IsOnScreen(place))
+        _frame->move(place);
+    KeepPlace();
+}
+
+// That of the content, and room for the title and the signs beside it.
+QSize WindowPeer::NaturalSize() const {
+    const QFontMetrics metrics = _frame->fontMetrics();
+    const int title = metrics.horizontalAdvance(_frame->windowTitle()) + 8 * metrics.height();
+    return _frame->sizeHint().expandedTo(QSize(title, 0));
+}
+
+void WindowPeer::KeepPlace() {
+    _place = _frame->pos();
+    _size = _frame->size();
+}
+
+void WindowPeer::ReportPlace() {
+    const QPoint place = _frame->pos();
+    const QSize size = _frame->size();
+    const bool isMoved = place != _place;
+    const bool isResized = size != _size;
+    KeepPlace();
+    if (isMoved && Dialog() != nullptr)
+        Perform([this, place] { return host::DialogUser::Move(_window, place.x(), place.y()); });
+    if (isResized && Dialog() != nullptr)
+        Perform([this, size] { return host::DialogUser::Resize(_window, size.height(), size.width()); });
+}
+
+CATDlgDialog* WindowPeer::AsDialog() const {
+    return dynamic_cast<CATDlgDialog*>(Dialog());
+}
+
+} // namespace desktop

@@ -1,0 +1,29 @@
+#pragma once
+
+// Where the program's data lie: catalogue, texts, icons. The folders are laid out as in the source tree.
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace app {
+
+struct DataFolders {
+    std::filesystem::path root;
+
+    std::filesystem::path Catalogue() const { return root / "workbench" / "catalogue"; }
+    /// Folders of the texts of the panels and of the dialog.
+    std::vector<std::filesystem::path> Messages() const;
+};
+
+struct FoundData {
+    std::optional<DataFolders> folders;
+    std::string reason; ///< why there are none; empty when there are
+};
+
+/// The folder that the environment variable KELVANE_DATA names; without it share/kelvane beside the program's
+/// own folder, else the source tree from which the program was built.
+FoundData FindData();
+
+} // namespace app

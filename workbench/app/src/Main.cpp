@@ -1,0 +1,82 @@
+// kelvane: the feature dialog with its catalogue, for people, for sessions and for checks.
+
+#include "Catalogue.h"
+#include "Commands.h"
+#include "ExitStatus.h"
+#include "host/FaultPoints.h"
+#include "host/Trace.h"
+
+#include <cstdlib>
+
+namespace app {
+
+namespace {
+
+/// Traces go to standard error where the environment asks for them.
+class EnvironmentTrace {
+  public:
+    EnvironmentTrace() {
+        if (IsWanted())
+            host::Trace::AddSink(_sink);
+    }
+    ~EnvironmentTrace() { host::Trace::RemoveSink(_sink); }
+    EnvironmentTrace(const EnvironmentTrace&) = delete;
+    EnvironmentTrace& operator=(const EnvironmentTrace&) = delete;
+
+  private:
+    static bool IsWanted() {
+        const char* const levels = std::getenv("KELVANE_TRACE");
+        return levels != nullptr && *levels != '\0';
+    }
+
+    host::StandardErrorSink _sink;
+};
+
+std::string FaultOfEnvironment() {
+    if (!host::Trace::SetLevelsFromEnvironment())
+        return "KELVANE_TRACE: '" + std::string(std::getenv("KELVANE_TRACE")) +
+               "' is no list of levels such as OrvKv9Errors:1,2";
+    if (!host::FaultPoints::ArmFromEnvironment())
+        return "KELVANE_FAIL_CALL: '" + std::string(std::getenv("KELVANE_FAIL_CALL")) +
+               "' is neither a number from 1 on nor a name with one, such as message look-up:3";
+    return {};
+}
+
+int RunWithCatalogue(const Options& options) {
+    const FoundData data = FindData();
+    if (!data.folders)
+        return Complain(ExitUnusable, data.reason.c_str());
+    const std::optional<engineering::FeatureCatalogue> catalogue = PrepareCatalogue(options, *data.folders);
+    if (!catalogue)
+        return ExitUnusable;
+    switch (options.command) {
+    case Options::Command::Replay:
+        return Replay(options, *catalogue);
+    case Options::Command::Dump:
+        return Dump(options, *catalogue);
+    default:
+        return Open(options, *catalogue);
+    }
+}
+
+int Run(const Options& options) {
+    const std::string fault = FaultOfEnvironment();
+    if (!fault.empty())
+        return Complain(ExitUnusable, fault.c_str());
+    const EnvironmentTrace trace;
+    return options.command == Options::Command::Check ? CheckCatalogue(options.file)
+                                                      : RunWithCatalogue(options);
+}
+
+} // namespace
+
+} // namespace app
+
+int main(int count, char** values) {
+    try {
+        const app::Arguments arguments = app::ReadArguments(count, values);
+        return arguments.options ? app::Run(*arguments.options) : arguments.status;
+    } catch (const std::exception& error) {
+        return app::Complain(app::ExitUnusable, error.what());
+    }
+}

@@ -1,0 +1,30 @@
+#include "Commands.h"
+
+#include "ExitStatus.h"
+#include "Scene.h"
+#include "Windows.h"
+
+#include <iostream>
+
+namespace app {
+
+using workbench::FeatureCommand;
+
+int Open(const Options& options, const engineering::FeatureCatalogue& catalogue) {
+    const OpenedWindows windows = OpenWindowSystem(Display::Required);
+    if (!windows.system)
+        return Complain(ExitUnusable, windows.reason.c_str());
+    Scene scene(catalogue, options.mode);
+    const std::unique_ptr<DialogWindows> dialogs = windows.system->ShowDialogs(Answering::ByPerson);
+    scene.Command().WhenEnded([&windows] { windows.system->Quit(); });
+    if (!scene.Start())
+        return Complain(ExitFailed, "the feature dialog cannot be made: memory is short");
+    dialogs->Settle();
+    if (scene.Command().CurrentState() == FeatureCommand::State::Running)
+        windows.system->Run();
+    if (scene.Command().CurrentState() == FeatureCommand::State::Accepted)
+        std::cout << scene.Command().TypeKey() << ": " << scene.Command().SetName() << '\n';
+    return ExitDone;
+}
+
+} // namespace app

@@ -1,0 +1,34 @@
+#pragma once
+
+// The command line of kelvane.
+
+#include "workbench/FeatureCommand.h"
+
+#include <optional>
+#include <string>
+
+namespace app {
+
+struct Options {
+    enum class Command { Open, Replay, Dump, Check };
+
+    Command command = Command::Open;
+    workbench::FeatureCommand::Mode mode = workbench::FeatureCommand::Mode::Parameters;
+    std::string catalogue;  ///< folder; empty for the shipped one
+    std::string language;   ///< folder of the message files, such as "German"; empty for English
+    std::string file;       ///< session to replay, or catalogue to check; empty for none
+    bool desktop = false;   ///< replay in real windows
+    std::string pictures;   ///< folder; empty for none
+    std::string transcript; ///< file; empty for none
+    bool json = false;
+};
+
+struct Arguments {
+    std::optional<Options> options; ///< none when there is nothing left to do
+    int status = 0;                 ///< exit status in that case
+};
+
+/// Reads the command line. Help and version are printed to standard output, what is wrong to standard error.
+Arguments ReadArguments(int count, const char* const* values);
+
+} // namespace app

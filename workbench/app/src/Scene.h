@@ -1,0 +1,30 @@
+#pragma once
+
+// The running feature command with everything around it, in the order in which it has to come and go.
+
+#include "host/Application.h"
+#include "session/NotificationRecorder.h"
+#include "workbench/FeatureCommand.h"
+#include "workbench/PanelNotificationReader.h"
+
+namespace app {
+
+class Scene {
+  public:
+    /// The catalogue outlives the scene.
+    Scene(const engineering::FeatureCatalogue& catalogue, workbench::FeatureCommand::Mode mode);
+
+    workbench::FeatureCommand& Command() { return _command; }
+    session::NotificationRecorder& Recorder() { return _recorder; }
+
+    /// Opens the dialog; false where memory is short.
+    [[nodiscard]] bool Start() { return _command.Start(); }
+
+  private:
+    workbench::PanelNotificationReader _reader;
+    workbench::FeatureCommand _command;
+    session::NotificationRecorder _recorder;
+    host::Application _application; ///< its end destroys the dialogs, which may still reach the command
+};
+
+} // namespace app

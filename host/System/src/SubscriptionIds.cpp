@@ -1,14 +1,17 @@
 #include "SubscriptionIds.h"
 
+#include <deque>
 #include <vector>
 
 namespace host {
 
 namespace {
 
+constexpr std::size_t restingAtLeast = 4096;
+
 struct Slots {
     std::vector<Subscription*> subscriptions;
-    std::vector<CATCallback> unused;
+    std::deque<CATCallback> resting; // in the order in which they were given back
 };
 
 Slots& AllSlots() {
@@ -20,12 +23,12 @@ Slots& AllSlots() {
 
 CATCallback SubscriptionIds::Take(Subscription& iSubscription) {
     Slots& slots = AllSlots();
-    if (slots.unused.empty()) {
+    if (slots.resting.size() <= restingAtLeast) {
         slots.subscriptions.push_back(&iSubscription);
         return static_cast<CATCallback>(slots.subscriptions.size()) - 1;
     }
-    const CATCallback id = slots.unused.back();
-    slots.unused.pop_back();
+    const CATCallback id = slots.resting.front();
+    slots.resting.pop_front();
     slots.subscriptions[static_cast<std::size_t>(id)] = &iSubscription;
     return id;
 }
@@ -33,7 +36,7 @@ CATCallback SubscriptionIds::Take(Subscription& iSubscription) {
 void SubscriptionIds::GiveBack(CATCallback iId) {
     Slots& slots = AllSlots();
     slots.subscriptions[static_cast<std::size_t>(iId)] = nullptr;
-    slots.unused.push_back(iId);
+    slots.resting.push_back(iId);
 }
 
 Subscription* SubscriptionIds::Find(CATCallback iId) {
@@ -45,7 +48,7 @@ Subscription* SubscriptionIds::Find(CATCallback iId) {
 
 int SubscriptionIds::Live() {
     const Slots& slots = AllSlots();
-    return static_cast<int>(slots.subscriptions.size() - slots.unused.size());
+    return static_cast<int>(slots.subscriptions.size() - slots.resting.size());
 }
 
 } // namespace host

@@ -7,6 +7,7 @@
 #include "CATErrorMacros.h"
 #include "CATInternalError.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -45,6 +46,27 @@ TEST_F(EventsUnderAttackTest, AnOldIdentifierDoesNotEndTheSubscriptionOfAnother)
     RemoveCallback(watcher.get(), publisher.get(), id);
     Publish();
     EXPECT_EQ(Journal{"other:first"}, journal);
+}
+
+TEST_F(EventsUnderAttackTest, AnOldIdentifierDoesNotEndANewerSubscriptionOfTheSameSubscriber) {
+    const CATCallback id = watcher->HearFirst(*publisher);
+    RemoveCallback(watcher.get(), publisher.get(), id);
+    watcher->HearFirst(*publisher);
+    RemoveCallback(watcher.get(), publisher.get(), id);
+    Publish();
+    EXPECT_EQ(Journal{"watcher:first"}, journal);
+}
+
+TEST_F(EventsUnderAttackTest, IdentifiersAreUsedAgainSoThatTheyStaySmall) {
+    CATCallback largest = 0;
+    for (int round = 0; round < 20000; ++round) {
+        const CATCallback id = watcher->HearFirst(*publisher);
+        largest = std::max(largest, id);
+        RemoveCallback(watcher.get(), publisher.get(), id);
+    }
+    EXPECT_LT(largest, 10000);
+    Publish();
+    EXPECT_EQ(Journal(), journal);
 }
 
 TEST_F(EventsUnderAttackTest, ACallbackIsRemovedDuringItsOwnDispatch) {

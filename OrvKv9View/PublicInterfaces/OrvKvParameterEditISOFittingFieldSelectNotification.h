@@ -4,10 +4,10 @@
 #include "CATNotification.h"
 #include "CATUnicodeString.h"
 
-// The user has chosen another ISO 286 tolerance field, that is a grade, for the edited parameter.
+// The user has chosen another ISO 286 tolerance field, "H7" for instance, for the edited parameter.
 //
-// Sent by OrvKvToleranceSub with what its two combos show: the group (the position, "H" for instance) and the
-// field (the class, "H7" for instance).
+// Sent by OrvKvToleranceSub with what its two combos show: the group (the fundamental deviation, "H" for
+// instance) and the field (the tolerance class).
 class OrvKvParameterEditISOFittingFieldSelectNotification : public CATNotification {
     CATDeclareClass;
 

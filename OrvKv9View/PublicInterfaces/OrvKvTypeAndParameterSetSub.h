@@ -25,11 +25,13 @@ class OrvKvTypeAndParameterSetSub : public CATDlgFrame {
 
     // Lists the types of group iGroupNo (1 or more) and selects number iTypeNo (from 1) as if the user had
     // chosen it. Fails, and changes nothing, when the group number is below 1 or the panel is not built. A
-    // null list changes nothing and is no failure.
+    // null list changes nothing and is no failure; nor is an error that is raised while the choice is
+    // reported.
     long SetFeatureTypes(int iGroupNo, int iTypeNo, const CATListValCATString* const iTypes);
 
     // Lists the names and selects line iSelected (from 0; the first one for a negative number) as if the user
-    // had chosen it; a line that is not there selects nothing. Fails when the panel is not built.
+    // had chosen it; a line that is not there selects nothing. Fails when the panel is not built. An error
+    // that is raised while the choice is reported becomes the failing result; the names are listed then.
     long SetParameterSetNames(const CATListValCATUnicodeString& iNames, int iSelected);
 
     // Goes back to the first set without telling anybody. iFlag is not used.

@@ -21,7 +21,8 @@ class OrvKvTypeSub : public CATDlgFrame {
 
     // Lists the types of group iGroupNo (from 1) under their display names and selects number iTypeNo (from
     // 1) as if the user had chosen it; another number selects nothing. E_FAIL, without an error object and
-    // with nothing changed, when iTypes is null or the combo is missing.
+    // with nothing changed, when iTypes is null or the combo is missing. An error that is raised while the
+    // choice is reported becomes the failing result; the types are listed then.
     long SetTypes(int iGroupNo, int iTypeNo, const CATListValCATString* iTypes);
 
     // Lets the user choose a type or not: CATDlgEnable or CATDlgDisable.

@@ -26,6 +26,7 @@
 #include "OrvKvTypeSelectedNotification.h"
 #include "OrvKvUpdateParameterEditNotification.h"
 
+#include <cstring>
 #include <type_traits>
 
 namespace {
@@ -57,10 +58,17 @@ constexpr bool BelongsTo(Function Owner::*) {
     return std::is_same<Owner, CATBaseUnknown>::value;
 }
 
+template<class Class, class Function, class Owner>
+constexpr bool IsOverriddenBy(Function Owner::*) {
+    return std::is_same<Owner, Class>::value;
+}
+
 // The type of a member pointer names the class that declares the operation last.
 template<class Class>
 constexpr bool OverridesNothingElse() {
-    return BelongsTo(&Class::AddRef) && BelongsTo(&Class::Release) && BelongsTo(&Class::GetTypeInfoCount) &&
+    return IsOverriddenBy<Class>(&Class::GetMetaObject) && IsOverriddenBy<Class>(&Class::IsA) &&
+           IsOverriddenBy<Class>(&Class::IsAKindOf) && BelongsTo(&Class::AddRef) &&
+           BelongsTo(&Class::Release) && BelongsTo(&Class::GetTypeInfoCount) &&
            BelongsTo(&Class::GetTypeInfo) && BelongsTo(&Class::GetIDsOfNames) && BelongsTo(&Class::Invoke) &&
            BelongsTo(&Class::GetImpl) && BelongsTo(&Class::SetImpl) && BelongsTo(&Class::IsNull) &&
            BelongsTo(&Class::IsEqual) && BelongsTo(&Class::ChangeComponentState) &&
@@ -68,11 +76,43 @@ constexpr bool OverridesNothingElse() {
            BelongsTo<CATBaseUnknown*(const char*)>(&Class::QueryInterface);
 }
 
+// The place of a virtual operation in the table of its class. A pointer to it holds the distance in bytes
+// from the start of the table, and one more on some processors.
+template<class Method>
+int EntryOf(Method iMethod) {
+    std::ptrdiff_t distance = 0;
+    std::memcpy(&distance, &iMethod, sizeof distance);
+    return static_cast<int>(distance / static_cast<std::ptrdiff_t>(sizeof(void*)));
+}
+
+// An operation that a class after Class would add.
+template<class Class>
+struct Follower : Class {
+    virtual void Follow() {}
+};
+
+template<class Class>
+std::vector<int> VirtualEntries() {
+    HRESULT (Class::*const queryByIdentifier)(const IID&, void**) = &Class::QueryInterface;
+    CATBaseUnknown* (Class::*const queryByName)(const char*) = &Class::QueryInterface;
+    return {EntryOf(queryByIdentifier),       EntryOf(&Class::AddRef),
+            EntryOf(&Class::Release),         EntryOf(&Class::GetTypeInfoCount),
+            EntryOf(&Class::GetTypeInfo),     EntryOf(&Class::GetIDsOfNames),
+            EntryOf(&Class::Invoke),          EntryOf(queryByName),
+            EntryOf(&Class::GetMetaObject),   EntryOf(&Class::IsA),
+            EntryOf(&Class::IsAKindOf),       EntryOf(&Class::GetImpl),
+            EntryOf(&Class::SetImpl),         EntryOf(&Class::IsNull),
+            EntryOf(&Class::IsEqual),         EntryOf(&Class::ChangeComponentState),
+            EntryOf(&Follower<Class>::Follow)};
+}
+
 template<class Class, class... Arguments>
 FamilyMember Member(const char* iName, CopyRule iDeclaredCopy, Arguments... iArguments) {
     static_assert(std::is_base_of<CATNotification, Class>::value, "a notification");
     static_assert(std::is_convertible<Class*, CATNotification*>::value, "and openly so");
     static_assert(std::has_virtual_destructor<Class>::value, "released through its base");
+    static_assert(std::is_default_constructible<Class>::value == (sizeof...(iArguments) == 0),
+                  "made without values only where there is nothing to give");
     FamilyMember member;
     member.name = iName;
     member.declaredCopy = iDeclaredCopy;
@@ -81,6 +121,7 @@ FamilyMember Member(const char* iName, CopyRule iDeclaredCopy, Arguments... iArg
         sizeof...(iArguments) == 0 && !std::is_same<Class, OrvKvTypeSelectedNotification>::value;
     member.size = sizeof(Class);
     member.overridesNothingElse = OverridesNothingElse<Class>();
+    member.virtualEntries = VirtualEntries<Class>();
     member.make = [iArguments...]() mutable { return new Class(iArguments...); };
     member.metaObject = &Class::MetaObject;
     member.metaSlot = &Class::meta_object;

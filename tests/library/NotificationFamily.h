@@ -23,6 +23,7 @@ struct FamilyMember {
     bool isMarker;                          // carries nothing
     std::size_t size;                       // of an object
     bool overridesNothingElse;              // than the destructor and the three operations of the meta class
+    std::vector<int> virtualEntries;        // places of its virtual operations, and of one that follows them
     std::function<CATNotification*()> make; // null where memory is short
     CATMetaClass* (*metaObject)();
     CATMetaClass** metaSlot; // the static member

@@ -9,10 +9,13 @@
 #include "host/LiveObjects.h"
 #include "support/AuditedTest.h"
 #include "support/RecordingCommand.h"
+#include "support/TemporaryFolder.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <set>
+#include <sstream>
 
 using namespace support;
 
@@ -21,6 +24,36 @@ namespace {
 struct ReleaseReference {
     void operator()(CATBaseUnknown* iObject) const { iObject->Release(); }
 };
+
+// The public and the private part of a header, with single blanks between the words and none behind an
+// opening bracket.
+struct HeaderParts {
+    std::string open;
+    std::string hidden;
+};
+
+HeaderParts ReadHeader(const std::string& iName) {
+    std::istringstream words(ReadFile(KELVANE_LIBRARY_DIR "/PublicInterfaces/" + iName + ".h"));
+    HeaderParts parts;
+    std::string* part = &parts.open;
+    for (std::string word; words >> word;) {
+        if (word == "private:")
+            part = &parts.hidden;
+        *part += word.back() == '(' ? word : word + " ";
+    }
+    return parts;
+}
+
+// The beginnings of a copy constructor and of an assignment.
+using CopyDeclarations = std::array<std::string, 2>;
+
+// How many of the two are there.
+int Declares(const std::string& iPart, const CopyDeclarations& iDeclarations) {
+    return static_cast<int>(
+        std::count_if(iDeclarations.begin(), iDeclarations.end(), [&iPart](const std::string& iDeclaration) {
+            return iPart.find(iDeclaration) != std::string::npos;
+        }));
+}
 
 class NotificationFamilyTest : public AuditedTest, public testing::WithParamInterface<FamilyMember> {
   protected:
@@ -75,6 +108,12 @@ TEST_P(NotificationFamilyTest, OverridesTheOperationsOfItsMetaClassAlone) {
     EXPECT_TRUE(GetParam().overridesNothingElse);
 }
 
+// Modules that were built apart call the operations by their place. The destructor has the places 8 and 9.
+TEST_P(NotificationFamilyTest, HasTheVirtualOperationsOfItsBaseInTheirOrderAndNoOther) {
+    EXPECT_EQ(GetParam().virtualEntries,
+              (std::vector<int>{0, 1, 2, 3, 4, 5, 6, 7, 10, 11, 12, 13, 14, 15, 16, 17, 18}));
+}
+
 TEST_P(NotificationFamilyTest, OffersNoInterface) {
     const auto notification = Make();
     void* found = notification.get();
@@ -84,6 +123,23 @@ TEST_P(NotificationFamilyTest, OffersNoInterface) {
 
 TEST_P(NotificationFamilyTest, IsCopiedAsItsRuleSays) {
     EXPECT_EQ(GetParam().observedCopy, GetParam().declaredCopy);
+}
+
+// What the compiler sees of refused copies does not tell how they are declared; the header does.
+TEST_P(NotificationFamilyTest, DeclaresItsCopiesAsItsRuleSays) {
+    const std::string& name = GetParam().name;
+    const HeaderParts header = ReadHeader(name);
+    const auto declared = [&name](const std::string& iArgument) {
+        return CopyDeclarations{" " + name + "(" + iArgument, name + "& operator=(" + iArgument};
+    };
+    const CopyDeclarations fromConstant = declared("const " + name + "& ");
+    const CopyDeclarations fromModifiable = declared(name + "& ");
+    const bool none = name == "OrvKvModifiedParameterInMultiListNotification";
+    const CopyRule rule = GetParam().declaredCopy;
+    EXPECT_EQ(Declares(header.open, fromConstant), !none && rule == CopyRule::FromConstant ? 2 : 0);
+    EXPECT_EQ(Declares(header.open, fromModifiable), rule == CopyRule::FromModifiable ? 2 : 0);
+    EXPECT_EQ(Declares(header.hidden, fromConstant), 0);
+    EXPECT_EQ(Declares(header.hidden, fromModifiable), rule == CopyRule::Refused ? 2 : 0);
 }
 
 TEST_P(NotificationFamilyTest, DiesWithItsLastReference) {

@@ -19,6 +19,7 @@
 #include "host/LayoutPlan.h"
 #include "host/MessageCatalogs.h"
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,19 @@ constexpr unsigned char parameterSetMode = 1;
 Report SuccessAfter(int iCalledOperations) {
     Report report = SuccessIn(source);
     report.returns += iCalledOperations;
+    return report;
+}
+
+// The failure of an operation in which the selection of a line was refused.
+Report CaughtIn(const std::string& iOperation) {
+    Report report = PlainFailure();
+    report.returns = 1;
+    report.source = source;
+    report.traces = {{"OrvKv9SubFrames", 3, iOperation + " -> caught ERROR"},
+                     {"OrvKv9SubFrames", 3, "error message: ComboSelection"}};
+    report.errorClass = "CATInternalError";
+    report.key = "ComboSelection";
+    report.catalogue = "CATDialog";
     return report;
 }
 
@@ -185,7 +199,7 @@ TEST_F(OrvKvTypeAndParameterSetSubTest, AGroupNumberBelowOneFailsAndLeavesTheTyp
     const CATListValCATString others = Keys(5);
     SetTypes(1, 2, &keys);
     Command().Forget();
-    for (const int group : {0, -1, -2147483647}) {
+    for (const int group : {0, -1, std::numeric_limits<int>::min()}) {
         EXPECT_EQ(SetTypes(group, 1, &others), FailureIn(source, badTypes)) << group;
         EXPECT_EQ(TypeCombo().GetLineCount(), 3) << group;
         EXPECT_EQ(TypeCombo().GetSelect(), 1) << group;
@@ -250,7 +264,7 @@ TEST_F(OrvKvTypeAndParameterSetSubTest, SelectsTheNameThatIsAskedForAndReportsIt
 
 TEST_F(OrvKvTypeAndParameterSetSubTest, ANegativeSelectionIsTheFirstName) {
     MakeBuilt();
-    for (const int selected : {-1, -7, -2147483647}) {
+    for (const int selected : {-1, -7, std::numeric_limits<int>::min()}) {
         SetNames(Names(3), selected);
         EXPECT_EQ(SetCombo().GetSelect(), 0) << selected;
         EXPECT_EQ(LastChosenSet(), "Set 1") << selected;
@@ -292,6 +306,32 @@ TEST_F(OrvKvTypeAndParameterSetSubTest, TheChoiceIsSentByThePanelToItsFather) {
     SetNames(Names(3), 1);
     ASSERT_EQ(Command().Heard().size(), 1U);
     EXPECT_EQ(Command().Heard().front().sender, _panel);
+}
+
+// Counts the choices of a set that reach the panel itself on their way.
+class ListeningSub : public OrvKvTypeAndParameterSetSub {
+  public:
+    using OrvKvTypeAndParameterSetSub::OrvKvTypeAndParameterSetSub;
+
+    CATNotifPropagationMode AnalyseNotification(CATCommand* iFrom, CATNotification* iNotification) override {
+        _choices += iNotification->IsAKindOf("OrvKvParameterSetSelectedNotification");
+        return OrvKvTypeAndParameterSetSub::AnalyseNotification(iFrom, iNotification);
+    }
+    int Choices() const { return _choices; }
+
+  private:
+    int _choices = 0;
+};
+
+TEST_F(OrvKvTypeAndParameterSetSubTest, TheChoiceGoesToTheFatherAndNotThroughThePanelItself) {
+    auto* const panel = new ListeningSub(MainWindow(), parameterMode);
+    _panel = panel;
+    _panel->Build();
+    SetNames(Names(3), 1);
+    EXPECT_EQ(Command().TakeClasses(), oneSetChosen);
+    EXPECT_EQ(panel->Choices(), 0);
+    SetCombo().SendNotification(panel, new OrvKvParameterSetSelectedNotification(CATUnicodeString("Set")));
+    EXPECT_EQ(panel->Choices(), 1) << "one that is sent to the panel is counted";
 }
 
 TEST_F(OrvKvTypeAndParameterSetSubTest, AChosenTypeClimbsThroughThePanelToTheCommand) {
@@ -341,15 +381,33 @@ TEST_F(OrvKvTypeAndParameterSetSubTest, AnErrorRaisedWhileUnselectingBecomesTheF
     host::FaultPoints::FailCall(1, "combo selection");
     const Report report = Observe([&] { return _panel->UnselectParameterSet(0); });
     host::FaultPoints::Stop();
-    EXPECT_EQ(report.result, "E_FAIL");
-    EXPECT_EQ(report.source, source);
-    EXPECT_EQ(report.errorClass, "CATInternalError");
-    EXPECT_EQ(report.key, "ComboSelection");
-    EXPECT_EQ(report.traces,
-              TraceLines({{"OrvKv9SubFrames", 3,
-                           "OrvKvTypeAndParameterSetSub::UnselectParameterSet -> caught ERROR"},
-                          {"OrvKv9SubFrames", 3, "error message: ComboSelection"}}));
+    EXPECT_EQ(report, CaughtIn("OrvKvTypeAndParameterSetSub::UnselectParameterSet"));
     EXPECT_EQ(SelectedName(), "Set 3");
+}
+
+TEST_F(OrvKvTypeAndParameterSetSubTest, AnErrorRaisedWhileANameIsSelectedBecomesTheFailingResult) {
+    MakeBuilt();
+    host::FaultPoints::FailCall(1, "combo selection");
+    const Report report = SetNames(Names(3), 1);
+    host::FaultPoints::Stop();
+    EXPECT_EQ(report, CaughtIn("OrvKvTypeAndParameterSetSub::SetParameterSetNames"));
+    EXPECT_EQ(SetCombo().GetLineCount(), 3);
+    EXPECT_EQ(Command().TakeClasses(), Classes());
+    ASSERT_TRUE(host::DialogUser::Choose(SetCombo(), 1));
+    EXPECT_EQ(LastChosenSet(), "Set 2");
+}
+
+TEST_F(OrvKvTypeAndParameterSetSubTest, AnErrorRaisedWhileATypeIsSelectedIsTracedAndNotLookedAt) {
+    MakeBuilt();
+    const CATListValCATString keys = Keys(3);
+    host::FaultPoints::FailCall(1, "combo selection");
+    const Report report = SetTypes(1, 2, &keys);
+    host::FaultPoints::Stop();
+    Report expected = SuccessAfter(1);
+    expected.traces = {{"OrvKv9SubFrames", 3, "OrvKvTypeSub::SetTypes -> caught ERROR"},
+                       {"OrvKv9SubFrames", 3, "error message: ComboSelection"}};
+    EXPECT_EQ(report, expected);
+    EXPECT_EQ(TypeCombo().GetLineCount(), 3);
 }
 
 TEST_F(OrvKvTypeAndParameterSetSubTest, TypesCanBeDisabledAndEnabledWhileTheSetsStayFree) {
@@ -424,6 +482,29 @@ TEST_F(OrvKvTypeAndParameterSetSubTest, ADestroyedPanelRemovesItsCallbacks) {
     EXPECT_EQ(host::CommandInspection::AnalyseCallbacks(), before - 2);
 }
 
+// A child that counts the callbacks of its father when the father's end takes it along.
+class CountingChild : public CATDlgFrame {
+  public:
+    CountingChild(CATDialog& ioFather, std::vector<int>& ioCounts)
+        : CATDlgFrame(&ioFather, "CountingChild"), _father(ioFather), _counts(ioCounts) {}
+    ~CountingChild() override { _counts.push_back(host::CommandInspection::AnalyseCallbacks(_father)); }
+
+  private:
+    const CATDialog& _father;
+    std::vector<int>& _counts;
+};
+
+TEST_F(OrvKvTypeAndParameterSetSubTest, APanelRemovesItsCallbackBeforeItsWidgetsGo) {
+    std::vector<int> counts;
+    Make(parameterMode);
+    new CountingChild(*_panel, counts);
+    _panel->Build();
+    new CountingChild(*_panel, counts);
+    EXPECT_EQ(host::CommandInspection::AnalyseCallbacks(*_panel), 1);
+    delete _panel;
+    EXPECT_EQ(counts, std::vector<int>({0, 0}));
+}
+
 TEST_F(OrvKvTypeAndParameterSetSubTest, CopiesCarryTheMembersOfTheOriginal) {
     MakeBuilt();
     SetNames(Names(3), 2);
@@ -435,6 +516,26 @@ TEST_F(OrvKvTypeAndParameterSetSubTest, CopiesCarryTheMembersOfTheOriginal) {
     EXPECT_STREQ(other.GetSelectedParameterSetName().ConvertToChar(), "Set 3");
     other.DisableTypes(CATDlgDisable);
     EXPECT_EQ(TypeCombo().GetSensitivity(), CATDlgDisable);
+}
+
+TEST_F(OrvKvTypeAndParameterSetSubTest, ACopyOfAPanelThatIsNotBuiltBuildsInTheModeOfTheOriginal) {
+    Make(parameterSetMode);
+    OrvKvTypeAndParameterSetSub copy(*_panel);
+    copy.Build();
+    const std::vector<CATDialog*> children = host::Inspector::Children(copy);
+    ASSERT_EQ(children.size(), 2U);
+    EXPECT_EQ(children[1]->GetVisibility(), CATDlgHide);
+    EXPECT_TRUE(host::Inspector::Children(*_panel).empty());
+}
+
+TEST_F(OrvKvTypeAndParameterSetSubTest, ADestroyedCopyLeavesTheCallbacksOfTheOriginalAlone) {
+    MakeBuilt();
+    SetNames(Names(3), 0);
+    Command().Forget();
+    { const OrvKvTypeAndParameterSetSub copy(*_panel); }
+    ASSERT_TRUE(host::DialogUser::Choose(SetCombo(), 1));
+    EXPECT_EQ(LastChosenSet(), "Set 2");
+    EXPECT_EQ(Command().TakeClasses(), oneSetChosen);
 }
 
 TEST_F(OrvKvTypeAndParameterSetSubTest, HelpForTheComboIsThereInEveryLanguage) {

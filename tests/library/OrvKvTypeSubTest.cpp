@@ -6,6 +6,8 @@
 
 #include "CATDlgCombo.h"
 #include "CATDlgDocument.h"
+#include "CATErrorMacros.h"
+#include "CATInternalError.h"
 #include "OrvKvTypeSelectedNotification.h"
 #include "host/CommandInspection.h"
 #include "host/DialogPath.h"
@@ -14,6 +16,7 @@
 #include "host/Inspector.h"
 #include "host/MessageCatalogs.h"
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -187,7 +190,7 @@ TEST_F(OrvKvTypeSubTest, SelectsTheTypeThatIsAskedForAndReportsItAsIfTheUserHadC
 
 TEST_F(OrvKvTypeSubTest, ATypeNumberOutsideTheListSelectsAndReportsNothing) {
     BuiltPanel();
-    for (const int type : {0, -1, -2147483647, 3, 2147483647}) {
+    for (const int type : {0, -1, std::numeric_limits<int>::min(), 3, std::numeric_limits<int>::max()}) {
         EXPECT_EQ(SetTypes(1, type, Keys({"Slot", "Hole"})), SuccessIn(source)) << type;
         EXPECT_EQ(Combo().GetSelect(), -1) << type;
     }
@@ -239,6 +242,33 @@ TEST_F(OrvKvTypeSubTest, TheNotificationIsSentByThePanelAndReachesTheCommandOnce
     SetTypes(1, 2, Keys({"Slot", "Hole"}));
     ASSERT_EQ(Command().Heard().size(), 1U);
     EXPECT_EQ(Command().Heard().front().sender, &Panel());
+}
+
+// Counts the choices that reach the panel itself on their way.
+class ListeningTypeSub : public OrvKvTypeSub {
+  public:
+    using OrvKvTypeSub::OrvKvTypeSub;
+
+    CATNotifPropagationMode AnalyseNotification(CATCommand* iFrom, CATNotification* iNotification) override {
+        _choices += iNotification->IsAKindOf("OrvKvTypeSelectedNotification");
+        return OrvKvTypeSub::AnalyseNotification(iFrom, iNotification);
+    }
+    int Choices() const { return _choices; }
+
+  private:
+    int _choices = 0;
+};
+
+TEST_F(OrvKvTypeSubTest, TheNotificationGoesToTheFatherAndNotThroughThePanelItself) {
+    delete _panel;
+    auto* const panel = new ListeningTypeSub(MainWindow());
+    _panel = panel;
+    BuiltPanel();
+    SetTypes(1, 2, Keys({"Slot", "Hole"}));
+    EXPECT_EQ(Command().TakeClasses(), Classes({"OrvKvTypeSelectedNotification"}));
+    EXPECT_EQ(panel->Choices(), 0);
+    Combo().SendNotification(panel, new OrvKvTypeSelectedNotification());
+    EXPECT_EQ(panel->Choices(), 1) << "one that is sent to the panel is counted";
 }
 
 TEST_F(OrvKvTypeSubTest, KeepsACopyOfTheKeys) {
@@ -367,6 +397,36 @@ TEST_F(OrvKvTypeSubTest, ACommandMayListOtherTypesWhileItHearsOfAChoice) {
     EXPECT_EQ(command.Answers(), 2);
     EXPECT_EQ(LinesOf(Combo()), Lines({"Slot"}));
     EXPECT_EQ(Combo().GetSelect(), 0);
+}
+
+// A command may fail while it hears of a choice.
+class RaisingCommand : public CATCommand {
+  public:
+    RaisingCommand() : CATCommand(nullptr, "RaisingCommand") {}
+
+    CATNotifPropagationMode AnalyseNotification(CATCommand*, CATNotification*) override {
+        CATThrow(new CATInternalError("Error_InCommand", "CommandCatalog"));
+    }
+};
+
+TEST_F(OrvKvTypeSubTest, AnErrorThatTheCommandRaisesBecomesTheFailingResult) {
+    BuiltPanel();
+    RaisingCommand command;
+    host::Application::SetActiveCommand(&command);
+    const Report report = SetTypes(2, 1, Keys({"Slot", "Hole"}));
+    host::Application::SetActiveCommand(&Command());
+    Report expected = PlainFailure();
+    expected.returns = 2; // that of the notification and that of the panel
+    expected.source = source;
+    expected.traces = {{"OrvKv9SubFrames", 3, "OrvKvTypeSub::SetTypes -> caught ERROR"},
+                       {"OrvKv9SubFrames", 3, "error message: Error_InCommand"}};
+    expected.errorClass = "CATInternalError";
+    expected.key = "Error_InCommand";
+    expected.catalogue = "CommandCatalog";
+    EXPECT_EQ(report, expected);
+    EXPECT_EQ(LinesOf(Combo()), Lines({"Slot", "Plain hole"}));
+    ASSERT_TRUE(host::DialogUser::Choose(Combo(), 1));
+    EXPECT_EQ(LastChosen(), (ChosenType{2, 2, "Hole", "Plain hole"}));
 }
 
 TEST_F(OrvKvTypeSubTest, ADestroyedPanelTakesItsWidgetsAndCallbacksAlong) {

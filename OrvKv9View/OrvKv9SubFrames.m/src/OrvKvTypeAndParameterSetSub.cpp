@@ -65,12 +65,14 @@ long OrvKvTypeAndParameterSetSub::SetParameterSetNames(const CATListValCATUnicod
                                                        int iSelected) {
     if (_pParameterSetCmb == nullptr)
         return OrvKvReport::Failure("parameter set combo is NULL.", OrvKvHere);
-    _pParameterSetCmb->ClearLine(OrvKvAllLines);
-    for (int name = 1; name <= iNames.Size(); ++name)
-        _pParameterSetCmb->SetLine(iNames[name], OrvKvAtEnd, OrvKvAppend);
-    AdjustTextHeight(_pParameterSetCmb, iNames.Size());
-    SelectCombo(_pParameterSetCmb, iSelected);
-    return OrvKvReport::Success(OrvKvHere);
+    return OrvKvGuard::Run("OrvKvTypeAndParameterSetSub::SetParameterSetNames", OrvKvHere, [&]() -> long {
+        _pParameterSetCmb->ClearLine(OrvKvAllLines);
+        for (int name = 1; name <= iNames.Size(); ++name)
+            _pParameterSetCmb->SetLine(iNames[name], OrvKvAtEnd, OrvKvAppend);
+        AdjustTextHeight(_pParameterSetCmb, iNames.Size());
+        SelectCombo(_pParameterSetCmb, iSelected);
+        return OrvKvReport::Success(OrvKvHere);
+    });
 }
 
 long OrvKvTypeAndParameterSetSub::UnselectParameterSet(unsigned char) {

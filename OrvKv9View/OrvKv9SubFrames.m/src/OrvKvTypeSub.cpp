@@ -2,6 +2,7 @@
 
 #include "CATDlgCombo.h"
 #include "OrvKvDisplayName.h"
+#include "OrvKvGuard.h"
 #include "OrvKvLayout.h"
 #include "OrvKvPanelValues.h"
 #include "OrvKvReport.h"
@@ -11,6 +12,7 @@
 static const char SourceFile[] = "OrvKv9SubFrames.m/src/OrvKvTypeSub";
 
 static constexpr int VisibleTypes = 7;
+static constexpr int NoLine = -1;
 
 OrvKvImplementResourceName(OrvKvTypeSub, CATDlgFrame);
 
@@ -41,13 +43,15 @@ void OrvKvTypeSub::Build() {
 long OrvKvTypeSub::SetTypes(int iGroupNo, int iTypeNo, const CATListValCATString* iTypes) {
     if (iTypes == nullptr || _pTypeCombo == nullptr)
         return OrvKvReport::SilentFailure();
-    _GroupNo = iGroupNo;
-    _TypeKeys = *iTypes;
-    _pTypeCombo->ClearLine(OrvKvAllLines);
-    for (int type = 1; type <= _TypeKeys.Size(); ++type)
-        _pTypeCombo->SetLine(OrvKvDisplayName(_TypeKeys[type]), OrvKvAtEnd, OrvKvAppend);
-    _pTypeCombo->SetSelect(iTypeNo - 1, OrvKvNotifying);
-    return OrvKvReport::Success(OrvKvHere);
+    return OrvKvGuard::Run("OrvKvTypeSub::SetTypes", OrvKvHere, [&]() -> long {
+        _GroupNo = iGroupNo;
+        _TypeKeys = *iTypes;
+        _pTypeCombo->ClearLine(OrvKvAllLines);
+        for (int type = 1; type <= _TypeKeys.Size(); ++type)
+            _pTypeCombo->SetLine(OrvKvDisplayName(_TypeKeys[type]), OrvKvAtEnd, OrvKvAppend);
+        _pTypeCombo->SetSelect(iTypeNo < 1 ? NoLine : iTypeNo - 1, OrvKvNotifying);
+        return OrvKvReport::Success(OrvKvHere);
+    });
 }
 
 void OrvKvTypeSub::DisableTypes(const unsigned long& iWhat) {
@@ -56,7 +60,7 @@ void OrvKvTypeSub::DisableTypes(const unsigned long& iWhat) {
 }
 
 void OrvKvTypeSub::OnTypeComboSelNotification(CATCommand*, CATNotification*, void*) {
-    const int line = _pTypeCombo == nullptr ? -1 : _pTypeCombo->GetSelect();
+    const int line = _pTypeCombo == nullptr ? NoLine : _pTypeCombo->GetSelect();
     if (line < 0 || line >= _TypeKeys.Size())
         return;
     CATUnicodeString text;

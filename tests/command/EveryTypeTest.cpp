@@ -83,8 +83,8 @@ TEST_P(EveryTypeTest, TheDialogSpeaksTheLanguage) {
 }
 
 const Language languages[] = {{"", "Kelvane Feature", "Standard: "},
-                              {"German", "Kelvane-Element", "Norm: "},
-                              {"French", "Élément Kelvane", "Norme : "},
+                              {"German", "Kelvane-Feature", "Norm: "},
+                              {"French", "Fonction Kelvane", "Norme : "},
                               {"Japanese", "Kelvane フィーチャー", "規格: "}};
 
 INSTANTIATE_TEST_SUITE_P(Languages, EveryTypeTest, testing::ValuesIn(languages));

@@ -35,7 +35,7 @@ class PanelNotificationReaderTest : public support::AuditedTest {
         return Take(*notification);
     }
     static std::string Take(CATNotification& ioNotification) {
-        const std::string values = session::ToLine(workbench::PanelNotificationReader().Read(ioNotification));
+        std::string values = session::ToLine(workbench::PanelNotificationReader().Read(ioNotification));
         ioNotification.Release();
         return values;
     }

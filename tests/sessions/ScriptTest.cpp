@@ -9,7 +9,6 @@ namespace {
 
 using session::Reading;
 using session::ReadScript;
-using session::ValueKind;
 using session::Vocabulary;
 
 Reading Read(const std::string& iText) {

@@ -1,6 +1,6 @@
 #include "DataFolders.h"
 
-#include <cstdlib>
+#include "Environment.h"
 
 namespace app {
 
@@ -32,12 +32,12 @@ std::vector<fs::path> DataFolders::Messages() const {
 }
 
 FoundData FindData() {
-    const char* const wanted = std::getenv("KELVANE_DATA");
-    if (wanted != nullptr && *wanted != '\0') {
+    const std::string wanted = Environment("KELVANE_DATA");
+    if (!wanted.empty()) {
         const DataFolders folders{wanted};
         if (HoldsData(folders))
             return {folders, {}};
-        return {std::nullopt, "KELVANE_DATA: there are no data of kelvane in '" + std::string(wanted) + "'"};
+        return {std::nullopt, "KELVANE_DATA: there are no data of kelvane in '" + wanted + "'"};
     }
     for (const fs::path& root : {FolderOfProgram() / KELVANE_INSTALLED_DATA, fs::path(KELVANE_SOURCE_DIR)})
         if (HoldsData({root}))

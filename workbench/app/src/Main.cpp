@@ -2,11 +2,12 @@
 
 #include "Catalogue.h"
 #include "Commands.h"
+#include "Environment.h"
 #include "ExitStatus.h"
 #include "host/FaultPoints.h"
 #include "host/Trace.h"
 
-#include <cstdlib>
+#include <exception>
 
 namespace app {
 
@@ -16,7 +17,7 @@ namespace {
 class EnvironmentTrace {
   public:
     EnvironmentTrace() {
-        if (IsWanted())
+        if (!Environment("KELVANE_TRACE").empty())
             host::Trace::AddSink(_sink);
     }
     ~EnvironmentTrace() { host::Trace::RemoveSink(_sink); }
@@ -24,20 +25,15 @@ class EnvironmentTrace {
     EnvironmentTrace& operator=(const EnvironmentTrace&) = delete;
 
   private:
-    static bool IsWanted() {
-        const char* const levels = std::getenv("KELVANE_TRACE");
-        return levels != nullptr && *levels != '\0';
-    }
-
     host::StandardErrorSink _sink;
 };
 
 std::string FaultOfEnvironment() {
     if (!host::Trace::SetLevelsFromEnvironment())
-        return "KELVANE_TRACE: '" + std::string(std::getenv("KELVANE_TRACE")) +
+        return "KELVANE_TRACE: '" + Environment("KELVANE_TRACE") +
                "' is no list of levels such as OrvKv9Errors:1,2";
     if (!host::FaultPoints::ArmFromEnvironment())
-        return "KELVANE_FAIL_CALL: '" + std::string(std::getenv("KELVANE_FAIL_CALL")) +
+        return "KELVANE_FAIL_CALL: '" + Environment("KELVANE_FAIL_CALL") +
                "' is neither a number from 1 on nor a name with one, such as message look-up:3";
     return {};
 }

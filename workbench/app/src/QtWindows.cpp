@@ -1,6 +1,7 @@
 #include "Windows.h"
 
 #include "CATDlgWindow.h"
+#include "Environment.h"
 #include "ExitStatus.h"
 #include "desktop/Desktop.h"
 #include "host/EventScope.h"
@@ -15,13 +16,9 @@ namespace app {
 
 namespace {
 
-bool IsSet(const char* variable) {
-    const char* const value = std::getenv(variable);
-    return value != nullptr && *value != '\0';
-}
-
 bool HasDisplay() {
-    return IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY") || IsSet("QT_QPA_PLATFORM");
+    return !(Environment("DISPLAY") + Environment("WAYLAND_DISPLAY") + Environment("QT_QPA_PLATFORM"))
+                .empty();
 }
 
 /// What the platform plug-ins say of themselves and no user can do anything about.

@@ -13,6 +13,10 @@ bool SaysNothing(const std::string& line) {
     return line.empty() || line.front() == '#' || line.find_first_not_of(" \t") == std::string::npos;
 }
 
+std::string Place(const std::string& file, int line) {
+    return file + ":" + std::to_string(line) + ": ";
+}
+
 struct ParsedLine {
     Json json;
     std::string fault; ///< empty when there is a value
@@ -68,7 +72,7 @@ Reading ReadScript(std::istream& input, const std::string& name, const Vocabular
         ParsedLine parsed = Parse(line);
         const std::string fault = parsed.fault.empty() ? vocabulary.Fault(parsed.json) : parsed.fault;
         if (!fault.empty())
-            return {std::nullopt, name + ":" + std::to_string(number) + ": " + fault};
+            return {std::nullopt, Place(name, number) + fault};
         script.steps.push_back({number, std::move(parsed.json)});
     }
     if (input.bad())

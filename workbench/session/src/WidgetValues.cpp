@@ -188,7 +188,7 @@ WidgetValue CountOf(const CATDialog& widget, const std::string& aspect) {
 }
 
 WidgetValue LineOf(const CATDialog& widget, int line) {
-    const WidgetValue count = CountOf(widget, "lines");
+    WidgetValue count = CountOf(widget, "lines");
     if (!count.value)
         return count;
     if (line >= count.value->get<int>())

@@ -5,8 +5,8 @@
 
 namespace host {
 
-// Identifiers of live subscriptions: small integers. One that was given back rests until many others were given
-// back after it, so that a subscriber who removes a subscription twice does not hit a newer one.
+// Identifiers of live subscriptions: small integers. One that was given back rests until many others were
+// given back after it, so that a subscriber who removes a subscription twice does not hit a newer one.
 class SubscriptionIds {
   public:
     static CATCallback Take(Subscription& iSubscription);

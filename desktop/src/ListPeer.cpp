@@ -12,7 +12,7 @@ namespace desktop {
 
 namespace {
 constexpr int shortestContent = 12; // characters
-constexpr int longestContent = 40;
+constexpr int longestContent = 56;
 constexpr int linesByDefault = 5;
 } // namespace
 

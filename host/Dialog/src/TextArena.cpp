@@ -72,11 +72,11 @@ void TextArena::Clear() {
     _abandoned = 0;
 }
 
-// A text of more than a quarter of a block gets a block of its own, so that little room is lost. The first
-// block of an arena is small, for the many lists with a few rows.
+// A text of more than a quarter of a block gets a block of its own, and a new block is a sixteenth of what is
+// taken already, within limits: so little room is lost in lists of any length.
 char* TextArena::Reserve(std::size_t iBytes) {
     if (iBytes > _left) {
-        const std::size_t regular = std::clamp(_taken, blockBytes / 64, blockBytes);
+        const std::size_t regular = std::clamp(_taken / 16, blockBytes / 64, blockBytes);
         const bool isLarge = iBytes > regular / 4;
         const std::size_t size = isLarge ? iBytes : regular;
         _blocks.push_back(std::unique_ptr<char[]>(new char[size]));

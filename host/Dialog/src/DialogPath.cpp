@@ -116,7 +116,7 @@ std::string DialogPath::Of(const CATDialog& iWidget) {
         widget = Inspector::Parent(*widget);
         if (widget == nullptr)
             return path;
-        path = StepOf(*widget) + "/" + path;
+        path.insert(0, StepOf(*widget) + "/");
     }
     return path;
 }

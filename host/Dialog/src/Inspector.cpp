@@ -139,7 +139,8 @@ std::string Inspector::IconFile(const std::string& iName) {
         return std::string();
     for (const std::string& folder : MessageCatalogs::Folders())
         for (const char* suffix : {".svg", ".png", ".bmp"}) {
-            const std::string file = folder + "/../graphic/icons/normal/" + iName + suffix;
+            std::string file = folder;
+            file.append("/../graphic/icons/normal/").append(iName).append(suffix);
             std::error_code ignored;
             if (std::filesystem::is_regular_file(file, ignored))
                 return file;

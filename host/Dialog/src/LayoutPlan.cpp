@@ -90,7 +90,8 @@ class Axis {
     }
 
     void Use(const Block& iBlock, bool iStretches) {
-        const std::size_t end = static_cast<std::size_t>(iBlock.first + iBlock.span);
+        const std::size_t end =
+            static_cast<std::size_t>(iBlock.first) + static_cast<std::size_t>(iBlock.span);
         if (_stretches.size() < end)
             _stretches.resize(end, false);
         if (iStretches)

@@ -77,7 +77,7 @@ bool Messages::IsWaiting() {
     return Waiting::IsAny();
 }
 
-int Messages::Ask(Message iMessage) {
+int Messages::Ask(const Message& iMessage) {
     const std::size_t number = Current().journal.size();
     Current().journal.push_back(iMessage);
     const int answer = AnswerFor(iMessage);

@@ -73,9 +73,11 @@ const CATDialog* ResourceTexts::PanelOf(const CATDialog& iWidget) {
 }
 
 std::string ResourceTexts::PathBelow(const CATDialog& iPanel, const CATDialog& iWidget) {
-    std::string path;
-    for (const CATDialog* widget = &iWidget; widget != &iPanel; widget = widget->_parent)
-        path = widget->GetName().ConvertToChar() + (path.empty() ? std::string() : "." + path);
+    if (&iWidget == &iPanel)
+        return std::string();
+    std::string path = iWidget.GetName().ConvertToChar();
+    for (const CATDialog* widget = iWidget._parent; widget != &iPanel; widget = widget->_parent)
+        path.insert(0, std::string(widget->GetName().ConvertToChar()) + ".");
     return path;
 }
 

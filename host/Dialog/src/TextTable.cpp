@@ -26,13 +26,13 @@ TextTable& TextTable::operator=(const TextTable& iOther) {
 void TextTable::SetColumns(int iColumns) {
     if (iColumns <= _columns)
         return;
-    const int before = _columns;
+    const std::size_t before = static_cast<std::size_t>(_columns);
     const std::size_t width = static_cast<std::size_t>(iColumns);
     for (std::size_t block = 0; block < _blocks.size(); ++block) {
-        const int rows = block == 0 ? _firstBlockRows : rowsPerBlock;
-        std::unique_ptr<CellText[]> wider(new CellText[static_cast<std::size_t>(rows) * width]());
-        for (int row = 0; row < rows; ++row)
-            std::copy_n(_blocks[block].get() + row * before, before, wider.get() + row * iColumns);
+        const std::size_t rows = static_cast<std::size_t>(block == 0 ? _firstBlockRows : rowsPerBlock);
+        std::unique_ptr<CellText[]> wider(new CellText[rows * width]());
+        for (std::size_t row = 0; row < rows; ++row)
+            std::copy_n(_blocks[block].get() + row * before, before, wider.get() + row * width);
         _blocks[block] = std::move(wider);
     }
     _columns = iColumns;

@@ -45,7 +45,7 @@ class Messages {
     static bool IsWaiting();
 
     // Records the message and gives its answer.
-    static int Ask(Message iMessage);
+    static int Ask(const Message& iMessage);
     static void Reset();
 };
 

@@ -1,11 +1,13 @@
 #include "Catalogue.h"
 
 #include "ExitStatus.h"
+#include "MessageFiles.h"
 #include "engineering/CatalogueLoader.h"
 #include "host/MessageCatalogs.h"
 #include "session/Counted.h"
 
 #include <iostream>
+#include <vector>
 
 namespace app {
 
@@ -21,6 +23,11 @@ bool IsFolder(const fs::path& path) {
 
 int ComplainOfMissing(const fs::path& folder) {
     return Complain(ExitUnusable, ("there is no catalogue folder '" + folder.string() + "'").c_str());
+}
+
+void Print(const std::vector<engineering::Problem>& problems, std::ostream& out) {
+    for (const engineering::Problem& problem : problems)
+        out << ToText(problem) << '\n';
 }
 
 std::string Summary(const engineering::FeatureCatalogue& catalogue) {
@@ -45,11 +52,10 @@ std::optional<engineering::FeatureCatalogue> PrepareCatalogue(const Options& opt
         return std::nullopt;
     }
     engineering::LoadResult loaded = engineering::CatalogueLoader::Load(folder);
-    for (const engineering::Problem& problem : loaded.problems)
-        std::cerr << ToText(problem) << '\n';
+    Print(loaded.problems, std::cerr);
     for (const fs::path& messages : data.Messages())
         host::MessageCatalogs::AddFolder(messages.string());
-    host::MessageCatalogs::AddFolder((folder / "msgcatalog").string());
+    Print(UseMessageFiles(folder), std::cerr); // a text that cannot be read is shown as its key
     host::MessageCatalogs::SetLanguage(options.language);
     return std::move(loaded.catalogue);
 }
@@ -58,9 +64,10 @@ int CheckCatalogue(const std::string& folder) {
     if (!IsFolder(folder))
         return ComplainOfMissing(folder);
     const engineering::LoadResult loaded = engineering::CatalogueLoader::Load(folder);
-    for (const engineering::Problem& problem : loaded.problems)
-        std::cout << ToText(problem) << '\n';
-    if (!loaded.problems.empty())
+    const std::vector<engineering::Problem> textProblems = UseMessageFiles(folder);
+    Print(loaded.problems, std::cout);
+    Print(textProblems, std::cout);
+    if (!loaded.problems.empty() || !textProblems.empty())
         return ExitFailed;
     std::cout << folder << ": " << Summary(*loaded.catalogue) << '\n';
     return ExitDone;

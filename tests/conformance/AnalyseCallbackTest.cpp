@@ -73,7 +73,7 @@ CERTAIN(AnalyseCallbacks, ANotificationIsAlsoNamedByItsClass) {
     dialog.AddAnalyseNotificationCB(&button, "OtherNotification", firstCallback, nullptr);
     button.SendNotification(&frame, new OtherNotification);
     EXPECT_EQ(
-        (Journal{"frame hears OtherNotification from button", "dialog:first OtherNotification from frame"}),
+        (Journal{"frame hears OtherNotification from button", "dialog:first OtherNotification from button"}),
         journal);
 }
 
@@ -109,7 +109,7 @@ CERTAIN(AnalyseCallbacks, ACommandHearsAPublisherFarBelowIt) {
     Press();
     EXPECT_EQ(
         (Journal{"frame hears SampleNotification from button", "dialog hears SampleNotification from frame",
-                 "command:first SampleNotification from dialog"}),
+                 "command:first SampleNotification from button"}),
         journal);
 }
 
@@ -141,9 +141,9 @@ ASSUMED(AnalyseCallbacks, ACallbackComesBeforeTheCommandsOwnAnalysis,
     dialog.Answer(CATNotifDontTransmitToFather);
     dialog.AddAnalyseNotificationCB(&button, pressed.get(), firstCallback, nullptr);
     Press();
-    EXPECT_EQ(
-        (Journal{"frame hears SampleNotification from button", "dialog:first SampleNotification from frame"}),
-        journal);
+    EXPECT_EQ((Journal{"frame hears SampleNotification from button",
+                       "dialog:first SampleNotification from button"}),
+              journal);
 }
 
 ASSUMED(AnalyseCallbacks, SeveralMethodsForOnePairRunInTheirOrder, "open: order of registration") {

@@ -48,6 +48,7 @@ class CATCommand : public CATEventSubscriber {
 
     // Lets a method of this command answer a notification that iPublisher, this command itself or one below
     // it, sends. A null publisher or notification stands for any. Several methods for one pair run in order.
+    // A method hears of the sender itself, however many commands lie between.
     void AddAnalyseNotificationCB(CATCommand* iPublisher, CATNotification* iNotification,
                                   CATCommandMethod iMethod, CATCommandClientData iData);
     void AddAnalyseNotificationCB(CATCommand* iPublisher, const char* iNotificationClass,

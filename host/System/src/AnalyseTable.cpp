@@ -46,8 +46,7 @@ void AnalyseTable::End(CATCommand& ioCommand) {
     table->Sweep();
 }
 
-bool AnalyseTable::RunEntries(CATCommand* const& iSender, CATCommand* const& iFrom,
-                              CATNotification& ioNotification) {
+bool AnalyseTable::RunEntries(CATCommand* const& iSender, CATNotification& ioNotification) {
     bool ran = false;
     const std::size_t count = _entries.size();
     const Running running(*this);
@@ -56,7 +55,7 @@ bool AnalyseTable::RunEntries(CATCommand* const& iSender, CATCommand* const& iFr
             continue;
         ran = true;
         const Entry entry = _entries[index]; // a callback may add entries
-        (_owner->*entry.method)(iFrom, &ioNotification, entry.data);
+        (_owner->*entry.method)(iSender, &ioNotification, entry.data);
     }
     return ran;
 }

@@ -25,12 +25,11 @@ class AnalyseTable {
     static void Remove(CATCommand& ioOwner, const Entry& iPattern);
     // Ends all entries by and on ioCommand, which is being destroyed.
     static void End(CATCommand& ioCommand);
-    // Runs the callbacks of ioOwner that match. True when there was one. iSender and iFrom are read anew for
-    // each callback: they become null when an earlier one destroys the command.
-    static bool Run(CATCommand& ioOwner, CATCommand* const& iSender, CATCommand* const& iFrom,
-                    CATNotification& ioNotification) {
+    // Runs the callbacks of ioOwner that match. True when there was one. iSender is read anew for each
+    // callback: it becomes null when an earlier one destroys the command.
+    static bool Run(CATCommand& ioOwner, CATCommand* const& iSender, CATNotification& ioNotification) {
         AnalyseTable* const table = ioOwner._analyseTable;
-        return table != nullptr && table->RunEntries(iSender, iFrom, ioNotification);
+        return table != nullptr && table->RunEntries(iSender, ioNotification);
     }
     static int CountOf(const CATCommand& iOwner);
     static int CountOfAll();
@@ -38,7 +37,7 @@ class AnalyseTable {
   private:
     static AnalyseTable& Of(CATCommand& ioCommand);
 
-    bool RunEntries(CATCommand* const& iSender, CATCommand* const& iFrom, CATNotification& ioNotification);
+    bool RunEntries(CATCommand* const& iSender, CATNotification& ioNotification);
     bool Matches(const Entry& iEntry, const CATCommand* iSender, const CATNotification& iNotification) const;
     void EndEntry(Entry& ioEntry);
     void EndEntriesOn(const CATCommand& iPublisher);

@@ -14,7 +14,7 @@ int undelivered = 0;
 void Climb::Run(CATCommand& iTarget, CATNotification& ioNotification) {
     _next = &iTarget;
     _hasMetActive = _sender == ActiveCommand::Get();
-    if (AnalyseTable::Run(*_sender, _sender, _sender, ioNotification))
+    if (AnalyseTable::Run(*_sender, _sender, ioNotification))
         return;
     while (_next != nullptr) {
         _here = _next;
@@ -39,7 +39,7 @@ void Climb::AskSelector() {
 
 // True when ioCommand ends the climb.
 bool Climb::Visit(CATCommand& ioCommand, CATNotification& ioNotification) {
-    if (&ioCommand != _sender && AnalyseTable::Run(ioCommand, _sender, _from, ioNotification))
+    if (&ioCommand != _sender && AnalyseTable::Run(ioCommand, _sender, ioNotification))
         return true;
     if (_here == nullptr)
         return false;

@@ -18,8 +18,8 @@
 #include "OrvKvThreadTakeNotification.h"
 #include "OrvKvThreadTypeNotification.h"
 #include "OrvKvTypeSelectedNotification.h"
+#include "host/Parameters.h"
 #include "support/AuditedTest.h"
-#include "support/StubParameter.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -64,10 +64,8 @@ TEST_F(PanelNotificationReaderTest, ReadsEveryValueOfEveryClass) {
 }
 
 TEST_F(PanelNotificationReaderTest, ReadsTheParameterToEditByItsName) {
-    auto* const parameter = new support::StubParameter("D");
-    const CATICkeParm_var handle(parameter);
-    parameter->Release();
-    EXPECT_EQ(Read<OrvKvParameterEditISOFittingNotification>(handle, "H", "7"),
+    const CATICkeParm_var parameter = host::Parameters::NewLength("D", 10.0);
+    EXPECT_EQ(Read<OrvKvParameterEditISOFittingNotification>(parameter, "H", "7"),
               R"({"parameterName":"D","fittingGroup":"H","fittingField":"7"})");
     EXPECT_EQ(Read<OrvKvParameterEditISOFittingNotification>(CATICkeParm_var(), "", ""),
               R"({"parameterName":null,"fittingGroup":"","fittingField":""})");

@@ -2,12 +2,10 @@
 
 #include "CATUnicodeString.h"
 
+#include "DecimalComma.h"
 #include "Samples.h"
 
-#include <clocale>
 #include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <string>
 
 namespace {
@@ -20,45 +18,6 @@ std::string Printed(double iNumber) {
     std::snprintf(text, sizeof text, "%g", iNumber);
     return text;
 }
-
-// A decimal comma for one test: an installed locale that has one, or one that is compiled into a temporary
-// folder.
-class DecimalComma {
-  public:
-    DecimalComma() : _previous(std::setlocale(LC_NUMERIC, nullptr)) {
-        for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "de_DE.utf8", "fr_FR.utf8"})
-            if (std::setlocale(LC_NUMERIC, name) != nullptr)
-                return;
-        SetCompiled();
-    }
-    ~DecimalComma() {
-        std::setlocale(LC_NUMERIC, _previous.c_str());
-        unsetenv("LOCPATH");
-        std::error_code ignored;
-        if (!_folder.empty())
-            std::filesystem::remove_all(_folder, ignored);
-    }
-    DecimalComma(const DecimalComma&) = delete;
-    DecimalComma& operator=(const DecimalComma&) = delete;
-
-    static bool IsThere() { return std::string(std::localeconv()->decimal_point) == ","; }
-
-  private:
-    void SetCompiled() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "locale-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr)
-            return;
-        _folder = pattern;
-        const std::string compile =
-            "localedef -i de_DE -f UTF-8 '" + _folder + "/de_DE.UTF-8' >/dev/null 2>&1";
-        setenv("LOCPATH", _folder.c_str(), 1);
-        if (std::system(compile.c_str()) == 0)
-            std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
-    }
-
-    std::string _previous;
-    std::string _folder;
-};
 
 } // namespace
 

@@ -4,7 +4,7 @@
 
 #include "NotificationTest.h"
 #include "host/LiveObjects.h"
-#include "support/StubParameter.h"
+#include "host/Parameters.h"
 
 using namespace support;
 
@@ -13,12 +13,8 @@ namespace {
 using Fitting = OrvKvParameterEditISOFittingNotification;
 using OrvKvParameterEditISOFittingNotificationTest = NotificationTest<Fitting>;
 
-// A parameter whose one reference is that of the handle.
 CATICkeParm_var NewParameter(const char* iName) {
-    auto* const parameter = new StubParameter(iName);
-    CATICkeParm_var handle(parameter);
-    parameter->Release();
-    return handle;
+    return host::Parameters::NewLength(iName, 10.0);
 }
 
 TEST_F(OrvKvParameterEditISOFittingNotificationTest, GivesParameterGroupAndField) {
@@ -65,9 +61,9 @@ TEST_F(OrvKvParameterEditISOFittingNotificationTest, FailsWithOneMessageWhicheve
 
 TEST_F(OrvKvParameterEditISOFittingNotificationTest, HoldsTheParameterAsLongAsItLives) {
     auto* const notification = new Fitting(NewParameter("DIAMETER"), "H", "H7");
-    EXPECT_EQ(host::LiveObjects::Count("StubParameter"), 1);
+    EXPECT_EQ(host::LiveObjects::Count("Parameter"), 1);
     notification->Release();
-    EXPECT_EQ(host::LiveObjects::Count("StubParameter"), 0);
+    EXPECT_EQ(host::LiveObjects::Count("Parameter"), 0);
 }
 
 } // namespace

@@ -1,8 +1,11 @@
 #include "CATDlgMultiList.h"
 
+#include "CATErrorMacros.h"
+#include "CATInternalError.h"
 #include "MultiListState.h"
 #include "WidgetEvents.h"
 #include "host/DialogObserver.h"
+#include "host/FaultPoints.h"
 #include "host/Inspector.h"
 
 #include <algorithm>
@@ -61,6 +64,8 @@ void CATDlgMultiList::SetColumnTextWidth(int iColumn, int iCharacters) {
 }
 
 void CATDlgMultiList::SetColumnItem(int iColumn, const CATUnicodeString& iText, int iLine, CATULong iMode) {
+    if (host::FaultPoints::FailsByName("list cell"))
+        CATThrow(new CATInternalError("ListCell", "CATDialog"));
     host::TextTable& cells = _state->cells;
     const bool isFixed = !_state->titles.empty();
     if (iColumn < 0 || iColumn >= (isFixed ? static_cast<int>(_state->titles.size()) : maximumColumns))

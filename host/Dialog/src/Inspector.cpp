@@ -38,12 +38,6 @@ bool IsTop(const CATDialog* iWidget) {
     return iWidget == nullptr || iWidget == WidgetTree::Root();
 }
 
-template<class Place>
-Inspector::TabSpan SpanOf(const Place& iPlace) {
-    return Inspector::TabSpan{iPlace.leading,     iPlace.trailing,  iPlace.hasLeading,
-                              iPlace.hasTrailing, iPlace.isCentred, iPlace.stretches};
-}
-
 } // namespace
 
 CATDialog* Inspector::Parent(const CATDialog& iWidget) {
@@ -172,11 +166,11 @@ std::vector<Attachment> Inspector::AttachmentsOf(const CATDialog& iChild) {
 }
 
 Inspector::TabSpan Inspector::ColumnsOf(const CATDialog& iChild) {
-    return SpanOf(iChild._columns);
+    return iChild._columns;
 }
 
 Inspector::TabSpan Inspector::RowsOf(const CATDialog& iChild) {
-    return SpanOf(iChild._rows);
+    return iChild._rows;
 }
 
 bool Inspector::HasGridConstraints(const CATDialog& iChild) {

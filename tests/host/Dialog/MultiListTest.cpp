@@ -334,6 +334,73 @@ TEST_F(CATDlgMultiListTest, RecordsVisibleSizesAndColumnWidths) {
         EXPECT_EQ(Inspector::ColumnTextWidth(list, column), 0) << column;
 }
 
+TEST_F(CATDlgMultiListTest, TellsTheColumnOfTheLastDoubleClick) {
+    SetTitles(list, {"Name", "Value"});
+    Append(list, {"A", "1"});
+    Append(list, {"B", "2"});
+    for (const int column : {1, 0, 1}) {
+        EXPECT_EQ(Result(DialogUser::Activate(list, column, column)), "done");
+        EXPECT_EQ(list.GetActivatedColumn(), column);
+        EXPECT_EQ(Selection(list), std::vector<int>{column});
+    }
+    list.ClearLine();
+    EXPECT_EQ(list.GetActivatedColumn(), 1);
+}
+
+TEST_F(CATDlgMultiListTest, SelectsTheDoubleClickedLineAloneAmongSeveral) {
+    for (const char* text : {"A", "B", "C"})
+        Append(several, {text});
+    Select(several, {0, 2});
+    EXPECT_EQ(Result(DialogUser::Activate(several, 1, 0)), "done");
+    EXPECT_EQ(Selection(several), std::vector<int>{1});
+}
+
+TEST_F(CATDlgMultiListTest, KeepsItsSelectionWhileCellsAreWritten) {
+    for (const char* text : {"A", "B", "C"})
+        Append(several, {text, "1"});
+    Select(several, {0, 2});
+    several.SetColumnItem(0, "a", 0, CATDlgDataModify);
+    several.SetColumnItem(1, "2", 2, CATDlgDataModify);
+    Append(several, {"D"});
+    EXPECT_EQ(Selection(several), (std::vector<int>{0, 2}));
+    EXPECT_EQ(dialog->TakeHeard(), Texts()) << "writing by program is silent";
+}
+
+TEST_F(CATDlgMultiListTest, TakesAHundredTitlesAndAWidthForEach) {
+    Texts titles;
+    for (int column = 0; column < 100; ++column)
+        titles.push_back("T" + std::to_string(column));
+    SetTitles(list, titles);
+    for (int column = 0; column < 100; ++column)
+        list.SetColumnTextWidth(column, column + 1);
+    ASSERT_EQ(list.GetColumnCount(), 100);
+    Append(list, titles);
+    CATUnicodeString title;
+    for (int column = 0; column < 100; ++column) {
+        list.GetColumnTitle(column, title);
+        EXPECT_EQ(title.ConvertToChar(), titles[static_cast<std::size_t>(column)]);
+        EXPECT_EQ(Inspector::ColumnTextWidth(list, column), column + 1);
+        EXPECT_EQ(Item(list, 0, column), titles[static_cast<std::size_t>(column)]);
+    }
+}
+
+TEST_F(CATDlgMultiListTest, KeepsItsSizesWhenItsLinesGoAndTakesNewOnes) {
+    list.SetVisibleTextHeight(18);
+    list.SetVisibleColumnCount(3);
+    list.SetColumnTextWidth(1, 12);
+    Append(list, {"A", "1"});
+    list.ClearLine();
+    EXPECT_EQ(Inspector::VisibleTextHeight(list), 18);
+    EXPECT_EQ(Inspector::VisibleColumnCount(list), 3);
+    EXPECT_EQ(Inspector::ColumnTextWidth(list, 1), 12);
+    list.SetVisibleTextHeight(2);
+    list.SetVisibleColumnCount(10);
+    list.SetColumnTextWidth(1, 3);
+    EXPECT_EQ(Inspector::VisibleTextHeight(list), 2);
+    EXPECT_EQ(Inspector::VisibleColumnCount(list), 10);
+    EXPECT_EQ(Inspector::ColumnTextWidth(list, 1), 3);
+}
+
 TEST_F(CATDlgMultiListTest, IsNotKeptFromSelectingItsLineAgain) {
     Append(list, {"A"});
     EXPECT_EQ(Result(DialogUser::Select(list, {0})), "done");

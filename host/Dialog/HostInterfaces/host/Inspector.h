@@ -1,6 +1,7 @@
 #ifndef host_Inspector_H
 #define host_Inspector_H
 
+#include "CATDialog.h"
 #include "CATDlgDefine.h"
 #include "CATDlgGridConstraints.h"
 
@@ -8,7 +9,6 @@
 #include <string>
 #include <vector>
 
-class CATDialog;
 class CATDlgCombo;
 class CATDlgDialog;
 class CATDlgEditor;
@@ -67,14 +67,7 @@ class Inspector {
     static std::vector<Attachment> Attachments(const CATDialog& iContainer);
     static std::vector<Attachment> AttachmentsOf(const CATDialog& iChild);
     // The attachments of a child in one direction, without a list.
-    struct TabSpan {
-        int leading = 0;
-        int trailing = 0;
-        bool hasLeading = false;
-        bool hasTrailing = false;
-        bool isCentred = false; // the leading line is that of the centre
-        bool stretches = false; // the trailing line follows the container
-    };
+    typedef CATDialog::TabPlace TabSpan;
     static TabSpan ColumnsOf(const CATDialog& iChild);
     static TabSpan RowsOf(const CATDialog& iChild);
     static bool HasGridConstraints(const CATDialog& iChild);

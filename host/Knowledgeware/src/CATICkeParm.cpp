@@ -1,3 +1,0 @@
-#include "CATICkeParm.h"
-
-CATImplementInterface(CATICkeParm, CATBaseUnknown);

@@ -145,7 +145,7 @@ TEST_F(BrokenFileTest, LinesAreCountedThroughBlankLinesAndQuotedLineBreaks) {
 }
 
 TEST_F(BrokenFileTest, ByteOrderMarkAndCarriageReturnsChangeNothing) {
-    for (const char* file : {"groups.csv", "types.csv", "parameters.csv", "sets/Groove.csv"}) {
+    for (const char* file : {"groups.csv", "types.csv", "parameters.csv", "inputs.csv", "sets/Groove.csv"}) {
         std::string windows = "\xEF\xBB\xBF";
         for (const char c : folder.Text(file)) {
             windows += c == '\n' ? std::string("\r\n") : std::string(1, c);

@@ -43,6 +43,11 @@ class CatalogueFolder {
               "SteppedHole,RATIO,REAL,,,1,0,0\n"
               "SteppedHole,AVOID,BOOLEAN,,,0,0,0\n"
               "Groove,B,LENGTH,mm,H9,1,1,1\n");
+        Write("inputs.csv", "type,number,kinds\n"
+                            "SteppedHole,1,point\n"
+                            "Groove,1,point\n"
+                            "Groove,2,line|plane\n"
+                            "Groove,3,plane\n");
         Write("sets/PlainHole.csv", "set,D [mm],D.tolerance,THREAD\n"
                                     "Hole M3,3.4,,M3\n"
                                     "Hole M4,4.5,H12,M4\n");

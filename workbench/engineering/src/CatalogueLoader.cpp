@@ -1,6 +1,7 @@
 #include "engineering/CatalogueLoader.h"
 
 #include "FileReport.h"
+#include "InputTable.h"
 #include "ParameterTable.h"
 #include "SetTable.h"
 #include "TypeTable.h"
@@ -41,6 +42,7 @@ std::vector<FeatureType> ReadFeatureTypes(const fs::path& folder, const GroupTab
                                           std::vector<Problem>& problems) {
     TypeTable types = ReadTypes(folder, groups, problems);
     ReadParameters(folder, types, problems);
+    ReadInputs(folder, types, problems);
     if (!IsFolder(folder / "sets", problems)) {
         return {};
     }
@@ -51,7 +53,8 @@ std::vector<FeatureType> ReadFeatureTypes(const fs::path& folder, const GroupTab
         }
         std::vector<ParameterSet> sets = ReadSets(folder, type, problems);
         if (problems.empty()) {
-            result.emplace_back(std::move(type.description), std::move(type.parameters), std::move(sets));
+            result.emplace_back(std::move(type.description), std::move(type.parameters), std::move(sets),
+                                std::move(type.inputs));
         }
     }
     if (EverySetsFileKnown(types)) {

@@ -3,6 +3,7 @@
 // Reads groups.csv and types.csv: the groups, and the types with the files of their sets.
 
 #include "engineering/FeatureType.h"
+#include "engineering/Input.h"
 #include "engineering/Parameter.h"
 #include "engineering/Problem.h"
 
@@ -27,6 +28,7 @@ struct TypeDraft {
     std::string setsFile;              ///< file name in the folder sets; empty when it cannot be read
     std::vector<Parameter> parameters; ///< in the order of parameters.csv
     std::set<std::string> unsound;     ///< names of parameters with a definition that cannot be used
+    std::vector<Input> inputs;         ///< in the order of their numbers, once all are read
     bool parametersComplete = true;    ///< false when a parameter may be missing from the list
 };
 

@@ -6,8 +6,9 @@
 //   for (const Problem& problem : result.problems)
 //       std::cerr << ToText(problem) << '\n';
 //
-// The folder holds groups.csv, types.csv, parameters.csv and the folder sets; its README.md describes them.
-// Files are UTF-8, at most 64 MiB each, with or without byte order mark, lines ending in LF or CRLF.
+// The folder holds groups.csv, types.csv, parameters.csv, the folder sets and, where types have geometry
+// inputs, inputs.csv; its README.md describes them. Files are UTF-8, at most 64 MiB each, with or without
+// byte order mark, lines ending in LF or CRLF.
 
 #include "engineering/FeatureCatalogue.h"
 #include "engineering/Problem.h"

@@ -1,11 +1,13 @@
 #pragma once
 
-// A feature type of the catalogue: its parameters and the parameter sets of its standard.
+// A feature type of the catalogue: its parameters, the parameter sets of its standard and its geometry
+// inputs.
 //
 //   const FeatureType* hole = catalogue.Type("ClearanceHole");
 //   const ParameterSet* set = hole->FindSet("ISO 273 M6 fine");
 //   const ParameterValue* diameter = hole->ValueOf(*set, "DH"); // 6.4 mm, H12
 
+#include "engineering/Input.h"
 #include "engineering/Parameter.h"
 #include "engineering/ParameterSet.h"
 
@@ -27,12 +29,15 @@ struct TypeDescription {
 class FeatureType {
   public:
     /// Takes everything over. Parameter names and set names are unique; each set has one value per parameter.
+    /// Inputs are numbered from 1 on without a gap.
     FeatureType(TypeDescription description, std::vector<Parameter> parameters,
-                std::vector<ParameterSet> sets);
+                std::vector<ParameterSet> sets, std::vector<Input> inputs);
 
     const TypeDescription& Description() const { return _description; }
     const std::vector<Parameter>& Parameters() const { return _parameters; }
     const std::vector<ParameterSet>& Sets() const { return _sets; }
+    /// In the order of their numbers; at most three.
+    const std::vector<Input>& Inputs() const { return _inputs; }
 
     /// The parameter of that exact name, or nullptr.
     const Parameter* FindParameter(std::string_view name) const;
@@ -49,6 +54,7 @@ class FeatureType {
     TypeDescription _description;
     std::vector<Parameter> _parameters; ///< in the order of the catalogue
     std::vector<ParameterSet> _sets;    ///< in the order of the catalogue
+    std::vector<Input> _inputs;         ///< in the order of their numbers
     Index _parameterIndex;              ///< name to position in _parameters
     Index _setIndex;                    ///< name to position in _sets
 };

@@ -20,6 +20,11 @@ struct ParameterValue {
     Tolerance tolerance; ///< the set's own, else the parameter's; None for a value that is not tabulated
 };
 
+/// Whether value and tolerance are exactly the same.
+inline bool SameValue(const ParameterValue& left, const ParameterValue& right) {
+    return left.value == right.value && left.tolerance == right.tolerance;
+}
+
 struct ParameterSet {
     std::string name;                   ///< unique within its type
     std::vector<ParameterValue> values; ///< one for each parameter of the type, in the type's order

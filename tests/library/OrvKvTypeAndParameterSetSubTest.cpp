@@ -1,18 +1,15 @@
 #include "OrvKvTypeAndParameterSetSub.h"
 
-#include "support/ApplicationTest.h"
+#include "PanelTest.h"
 #include "support/GoldenFolder.h"
-#include "support/Report.h"
 #include "support/ResourceFolder.h"
 
-#include "CATDlgCombo.h"
 #include "CATDlgDocument.h"
 #include "OrvKvParameterSetSelectedNotification.h"
 #include "OrvKvTypeSelectedNotification.h"
 #include "OrvKvTypeSub.h"
 #include "host/CommandInspection.h"
 #include "host/DialogDump.h"
-#include "host/DialogPath.h"
 #include "host/DialogUser.h"
 #include "host/FaultPoints.h"
 #include "host/Inspector.h"
@@ -68,7 +65,7 @@ CATListValCATUnicodeString Names(int iCount) {
     return names;
 }
 
-class OrvKvTypeAndParameterSetSubTest : public ApplicationTest {
+class OrvKvTypeAndParameterSetSubTest : public PanelTest {
   protected:
     OrvKvTypeAndParameterSetSub& Make(unsigned char iMode) {
         _panel = new OrvKvTypeAndParameterSetSub(MainWindow(), iMode);
@@ -79,14 +76,9 @@ class OrvKvTypeAndParameterSetSubTest : public ApplicationTest {
         return *_panel;
     }
 
-    static CATDlgCombo& Combo(const std::string& iPath) {
-        return dynamic_cast<CATDlgCombo&>(*host::DialogPath::Find(iPath).widget);
-    }
     static CATDlgCombo& SetCombo() { return Combo("ParameterSetCmb"); }
     static CATDlgCombo& TypeCombo() { return Combo("TypeSelectCombo"); }
-    static OrvKvTypeSub& TypeFrame() {
-        return dynamic_cast<OrvKvTypeSub&>(*host::DialogPath::Find("OrvKvTypeSub").widget);
-    }
+    static OrvKvTypeSub& TypeFrame() { return Widget<OrvKvTypeSub>("OrvKvTypeSub"); }
 
     Report SetNames(const CATListValCATUnicodeString& iNames, int iSelected) {
         return Observe([&] { return _panel->SetParameterSetNames(iNames, iSelected); });
@@ -308,30 +300,15 @@ TEST_F(OrvKvTypeAndParameterSetSubTest, TheChoiceIsSentByThePanelToItsFather) {
     EXPECT_EQ(Command().Heard().front().sender, _panel);
 }
 
-// Counts the choices of a set that reach the panel itself on their way.
-class ListeningSub : public OrvKvTypeAndParameterSetSub {
-  public:
-    using OrvKvTypeAndParameterSetSub::OrvKvTypeAndParameterSetSub;
-
-    CATNotifPropagationMode AnalyseNotification(CATCommand* iFrom, CATNotification* iNotification) override {
-        _choices += iNotification->IsAKindOf("OrvKvParameterSetSelectedNotification");
-        return OrvKvTypeAndParameterSetSub::AnalyseNotification(iFrom, iNotification);
-    }
-    int Choices() const { return _choices; }
-
-  private:
-    int _choices = 0;
-};
-
 TEST_F(OrvKvTypeAndParameterSetSubTest, TheChoiceGoesToTheFatherAndNotThroughThePanelItself) {
-    auto* const panel = new ListeningSub(MainWindow(), parameterMode);
+    auto* const panel = new ListeningPanel<OrvKvTypeAndParameterSetSub>(MainWindow(), parameterMode);
     _panel = panel;
     _panel->Build();
     SetNames(Names(3), 1);
     EXPECT_EQ(Command().TakeClasses(), oneSetChosen);
-    EXPECT_EQ(panel->Choices(), 0);
+    EXPECT_EQ(panel->Count(), 0);
     SetCombo().SendNotification(panel, new OrvKvParameterSetSelectedNotification(CATUnicodeString("Set")));
-    EXPECT_EQ(panel->Choices(), 1) << "one that is sent to the panel is counted";
+    EXPECT_EQ(panel->Count(), 1) << "one that is sent to the panel is counted";
 }
 
 TEST_F(OrvKvTypeAndParameterSetSubTest, AChosenTypeClimbsThroughThePanelToTheCommand) {
@@ -481,18 +458,6 @@ TEST_F(OrvKvTypeAndParameterSetSubTest, ADestroyedPanelRemovesItsCallbacks) {
     delete _panel;
     EXPECT_EQ(host::CommandInspection::AnalyseCallbacks(), before - 2);
 }
-
-// A child that counts the callbacks of its father when the father's end takes it along.
-class CountingChild : public CATDlgFrame {
-  public:
-    CountingChild(CATDialog& ioFather, std::vector<int>& ioCounts)
-        : CATDlgFrame(&ioFather, "CountingChild"), _father(ioFather), _counts(ioCounts) {}
-    ~CountingChild() override { _counts.push_back(host::CommandInspection::AnalyseCallbacks(_father)); }
-
-  private:
-    const CATDialog& _father;
-    std::vector<int>& _counts;
-};
 
 TEST_F(OrvKvTypeAndParameterSetSubTest, APanelRemovesItsCallbackBeforeItsWidgetsGo) {
     std::vector<int> counts;

@@ -1,16 +1,11 @@
 #include "OrvKvTypeSub.h"
 
-#include "support/ApplicationTest.h"
-#include "support/Report.h"
+#include "PanelTest.h"
 #include "support/ResourceFolder.h"
 
-#include "CATDlgCombo.h"
 #include "CATDlgDocument.h"
-#include "CATErrorMacros.h"
-#include "CATInternalError.h"
 #include "OrvKvTypeSelectedNotification.h"
 #include "host/CommandInspection.h"
-#include "host/DialogPath.h"
 #include "host/DialogUser.h"
 #include "host/FaultPoints.h"
 #include "host/Inspector.h"
@@ -33,25 +28,6 @@ Report SuccessAfter(int iCalledOperations) {
     return report;
 }
 
-CATListValCATString Keys(std::initializer_list<const char*> iKeys) {
-    CATListValCATString keys;
-    for (const char* key : iKeys)
-        keys.Append(key);
-    return keys;
-}
-
-std::vector<std::string> LinesOf(const CATDlgCombo& iCombo) {
-    std::vector<std::string> lines;
-    for (int line = 0; line < iCombo.GetLineCount(); ++line) {
-        CATUnicodeString text;
-        iCombo.GetLine(text, line);
-        lines.emplace_back(text.ConvertToChar());
-    }
-    return lines;
-}
-
-using Lines = std::vector<std::string>;
-
 // What a notification says of the chosen type.
 struct ChosenType {
     int group = -1;
@@ -67,7 +43,7 @@ void PrintTo(const ChosenType& iType, std::ostream* ioStream) {
               << iType.name << '"';
 }
 
-class OrvKvTypeSubTest : public ApplicationTest {
+class OrvKvTypeSubTest : public PanelTest {
   protected:
     OrvKvTypeSubTest() {
         _resources.Write("OrvKvCustomisation.CATNls", "Hole = \"Plain hole\";\n"
@@ -82,9 +58,7 @@ class OrvKvTypeSubTest : public ApplicationTest {
         _panel->Build();
         return *_panel;
     }
-    CATDlgCombo& Combo() { return dynamic_cast<CATDlgCombo&>(*Widget("TypeSelectCombo")); }
-
-    static CATDialog* Widget(const std::string& iPath) { return host::DialogPath::Find(iPath).widget; }
+    static CATDlgCombo& Combo() { return PanelTest::Combo("TypeSelectCombo"); }
 
     ChosenType LastChosen() {
         auto* const heard = Command().Last<OrvKvTypeSelectedNotification>();
@@ -147,42 +121,42 @@ TEST_F(OrvKvTypeSubTest, ASecondBuildMakesNothing) {
     Panel().Build();
     ASSERT_EQ(host::Inspector::Children(Panel()).size(), 1U);
     EXPECT_EQ(&Combo(), combo);
-    SetTypes(1, 0, Keys({"Hole"}));
+    SetTypes(1, 0, KeysOf({"Hole"}));
     ASSERT_TRUE(host::DialogUser::Choose(Combo(), 0));
     EXPECT_EQ(Command().TakeClasses(), Classes({"OrvKvTypeSelectedNotification"}));
 }
 
 TEST_F(OrvKvTypeSubTest, ListsTheTypesUnderTheirNamesInTheCatalogue) {
     BuiltPanel();
-    EXPECT_EQ(SetTypes(1, 1, Keys({"Slot", "Hole"})), SuccessAfter(1));
+    EXPECT_EQ(SetTypes(1, 1, KeysOf({"Slot", "Hole"})), SuccessAfter(1));
     EXPECT_EQ(LinesOf(Combo()), Lines({"Slot", "Plain hole"}));
 }
 
 TEST_F(OrvKvTypeSubTest, ShowsTheKeyOfATypeThatTheCatalogueDoesNotHave) {
     BuiltPanel();
-    EXPECT_EQ(SetTypes(1, 1, Keys({"Unheard_Of", "Hole", "Lost"})), SuccessAfter(1));
+    EXPECT_EQ(SetTypes(1, 1, KeysOf({"Unheard_Of", "Hole", "Lost"})), SuccessAfter(1));
     EXPECT_EQ(LinesOf(Combo()), Lines({"Unheard_Of", "Plain hole", "Lost"}));
 }
 
 TEST_F(OrvKvTypeSubTest, FillsThePlaceInADisplayNameWithTheWordName) {
     BuiltPanel();
-    SetTypes(1, 1, Keys({"Named"}));
+    SetTypes(1, 1, KeysOf({"Named"}));
     EXPECT_EQ(LinesOf(Combo()), Lines({"Feature of Name kind"}));
 }
 
 TEST_F(OrvKvTypeSubTest, ANewListReplacesTheOldOne) {
     BuiltPanel();
-    SetTypes(1, 1, Keys({"Slot", "Hole", "Named"}));
-    SetTypes(2, 1, Keys({"Hole"}));
+    SetTypes(1, 1, KeysOf({"Slot", "Hole", "Named"}));
+    SetTypes(2, 1, KeysOf({"Hole"}));
     EXPECT_EQ(LinesOf(Combo()), Lines({"Plain hole"}));
-    SetTypes(2, 1, Keys({}));
+    SetTypes(2, 1, KeysOf({}));
     EXPECT_EQ(LinesOf(Combo()), Lines());
     EXPECT_EQ(Combo().GetSelect(), -1);
 }
 
 TEST_F(OrvKvTypeSubTest, SelectsTheTypeThatIsAskedForAndReportsItAsIfTheUserHadChosenIt) {
     BuiltPanel();
-    SetTypes(3, 2, Keys({"Slot", "Hole"}));
+    SetTypes(3, 2, KeysOf({"Slot", "Hole"}));
     EXPECT_EQ(Combo().GetSelect(), 1);
     EXPECT_EQ(Command().Classes(), Classes({"OrvKvTypeSelectedNotification"}));
     EXPECT_EQ(LastChosen(), (ChosenType{3, 2, "Hole", "Plain hole"}));
@@ -191,17 +165,17 @@ TEST_F(OrvKvTypeSubTest, SelectsTheTypeThatIsAskedForAndReportsItAsIfTheUserHadC
 TEST_F(OrvKvTypeSubTest, ATypeNumberOutsideTheListSelectsAndReportsNothing) {
     BuiltPanel();
     for (const int type : {0, -1, std::numeric_limits<int>::min(), 3, std::numeric_limits<int>::max()}) {
-        EXPECT_EQ(SetTypes(1, type, Keys({"Slot", "Hole"})), SuccessIn(source)) << type;
+        EXPECT_EQ(SetTypes(1, type, KeysOf({"Slot", "Hole"})), SuccessIn(source)) << type;
         EXPECT_EQ(Combo().GetSelect(), -1) << type;
     }
     EXPECT_EQ(Command().TakeClasses(), Classes());
-    SetTypes(1, 1, Keys({"Slot", "Hole"}));
+    SetTypes(1, 1, KeysOf({"Slot", "Hole"}));
     EXPECT_EQ(Command().TakeClasses(), Classes({"OrvKvTypeSelectedNotification"}));
 }
 
 TEST_F(OrvKvTypeSubTest, ANullListIsRefusedWithoutATraceAndLeavesEverythingAsItWas) {
     BuiltPanel();
-    SetTypes(3, 2, Keys({"Slot", "Hole"}));
+    SetTypes(3, 2, KeysOf({"Slot", "Hole"}));
     Command().Forget();
     EXPECT_EQ(Observe([&] { return Panel().SetTypes(7, 1, nullptr); }), PlainFailure());
     EXPECT_EQ(LinesOf(Combo()), Lines({"Slot", "Plain hole"}));
@@ -212,14 +186,14 @@ TEST_F(OrvKvTypeSubTest, ANullListIsRefusedWithoutATraceAndLeavesEverythingAsItW
 }
 
 TEST_F(OrvKvTypeSubTest, ListingTypesBeforeThePanelIsBuiltFails) {
-    EXPECT_EQ(SetTypes(1, 1, Keys({"Hole"})), PlainFailure());
+    EXPECT_EQ(SetTypes(1, 1, KeysOf({"Hole"})), PlainFailure());
     BuiltPanel();
-    EXPECT_EQ(SetTypes(1, 1, Keys({"Hole"})), SuccessAfter(1));
+    EXPECT_EQ(SetTypes(1, 1, KeysOf({"Hole"})), SuccessAfter(1));
 }
 
 TEST_F(OrvKvTypeSubTest, AChoiceReportsGroupNumberKeyAndNameOfTheType) {
     BuiltPanel();
-    SetTypes(4, 0, Keys({"Slot", "Unheard_Of", "Hole"}));
+    SetTypes(4, 0, KeysOf({"Slot", "Unheard_Of", "Hole"}));
     ASSERT_TRUE(host::DialogUser::Choose(Combo(), 2));
     EXPECT_EQ(LastChosen(), (ChosenType{4, 3, "Hole", "Plain hole"}));
     ASSERT_TRUE(host::DialogUser::Choose(Combo(), 1));
@@ -230,7 +204,7 @@ TEST_F(OrvKvTypeSubTest, AChoiceReportsGroupNumberKeyAndNameOfTheType) {
 
 TEST_F(OrvKvTypeSubTest, ChoosingTheSameTypeAgainIsReportedAgain) {
     BuiltPanel();
-    SetTypes(1, 0, Keys({"Slot", "Hole"}));
+    SetTypes(1, 0, KeysOf({"Slot", "Hole"}));
     ASSERT_TRUE(host::DialogUser::Choose(Combo(), 1));
     ASSERT_TRUE(host::DialogUser::Choose(Combo(), 1));
     EXPECT_EQ(Command().TakeClasses(),
@@ -239,41 +213,26 @@ TEST_F(OrvKvTypeSubTest, ChoosingTheSameTypeAgainIsReportedAgain) {
 
 TEST_F(OrvKvTypeSubTest, TheNotificationIsSentByThePanelAndReachesTheCommandOnce) {
     BuiltPanel();
-    SetTypes(1, 2, Keys({"Slot", "Hole"}));
+    SetTypes(1, 2, KeysOf({"Slot", "Hole"}));
     ASSERT_EQ(Command().Heard().size(), 1U);
     EXPECT_EQ(Command().Heard().front().sender, &Panel());
 }
 
-// Counts the choices that reach the panel itself on their way.
-class ListeningTypeSub : public OrvKvTypeSub {
-  public:
-    using OrvKvTypeSub::OrvKvTypeSub;
-
-    CATNotifPropagationMode AnalyseNotification(CATCommand* iFrom, CATNotification* iNotification) override {
-        _choices += iNotification->IsAKindOf("OrvKvTypeSelectedNotification");
-        return OrvKvTypeSub::AnalyseNotification(iFrom, iNotification);
-    }
-    int Choices() const { return _choices; }
-
-  private:
-    int _choices = 0;
-};
-
 TEST_F(OrvKvTypeSubTest, TheNotificationGoesToTheFatherAndNotThroughThePanelItself) {
     delete _panel;
-    auto* const panel = new ListeningTypeSub(MainWindow());
+    auto* const panel = new ListeningPanel<OrvKvTypeSub>(MainWindow());
     _panel = panel;
     BuiltPanel();
-    SetTypes(1, 2, Keys({"Slot", "Hole"}));
+    SetTypes(1, 2, KeysOf({"Slot", "Hole"}));
     EXPECT_EQ(Command().TakeClasses(), Classes({"OrvKvTypeSelectedNotification"}));
-    EXPECT_EQ(panel->Choices(), 0);
+    EXPECT_EQ(panel->Count(), 0);
     Combo().SendNotification(panel, new OrvKvTypeSelectedNotification());
-    EXPECT_EQ(panel->Choices(), 1) << "one that is sent to the panel is counted";
+    EXPECT_EQ(panel->Count(), 1) << "one that is sent to the panel is counted";
 }
 
 TEST_F(OrvKvTypeSubTest, KeepsACopyOfTheKeys) {
     BuiltPanel();
-    CATListValCATString keys = Keys({"Slot", "Hole"});
+    CATListValCATString keys = KeysOf({"Slot", "Hole"});
     SetTypes(1, 0, keys);
     keys[2] = "Changed";
     keys.RemovePosition(1);
@@ -283,15 +242,15 @@ TEST_F(OrvKvTypeSubTest, KeepsACopyOfTheKeys) {
 
 TEST_F(OrvKvTypeSubTest, GroupNumbersArePassedOnAsTheyAre) {
     BuiltPanel();
-    SetTypes(0, 1, Keys({"Hole"}));
+    SetTypes(0, 1, KeysOf({"Hole"}));
     EXPECT_EQ(LastChosen(), (ChosenType{0, 1, "Hole", "Plain hole"}));
-    SetTypes(2147483647, 1, Keys({"Hole"}));
+    SetTypes(2147483647, 1, KeysOf({"Hole"}));
     EXPECT_EQ(LastChosen(), (ChosenType{2147483647, 1, "Hole", "Plain hole"}));
 }
 
 TEST_F(OrvKvTypeSubTest, ALineWithoutAKeyIsNotReported) {
     BuiltPanel();
-    SetTypes(1, 0, Keys({"Hole"}));
+    SetTypes(1, 0, KeysOf({"Hole"}));
     Combo().SetLine("Stray line");
     ASSERT_TRUE(host::DialogUser::Choose(Combo(), 1));
     EXPECT_EQ(Command().TakeClasses(), Classes());
@@ -301,7 +260,7 @@ TEST_F(OrvKvTypeSubTest, ALineWithoutAKeyIsNotReported) {
 
 TEST_F(OrvKvTypeSubTest, ANotificationWithoutASelectedLineIsNotReported) {
     BuiltPanel();
-    SetTypes(1, 0, Keys({"Hole"}));
+    SetTypes(1, 0, KeysOf({"Hole"}));
     CATNotification* const event = Combo().GetComboSelectNotification();
     event->AddRef();
     Combo().SendNotification(&Panel(), event);
@@ -310,7 +269,7 @@ TEST_F(OrvKvTypeSubTest, ANotificationWithoutASelectedLineIsNotReported) {
 
 TEST_F(OrvKvTypeSubTest, DisabledTypesCannotBeChosenUntilTheyAreEnabledAgain) {
     BuiltPanel();
-    SetTypes(1, 0, Keys({"Slot", "Hole"}));
+    SetTypes(1, 0, KeysOf({"Slot", "Hole"}));
     Panel().DisableTypes(CATDlgDisable);
     EXPECT_EQ(Combo().GetSensitivity(), CATDlgDisable);
     EXPECT_FALSE(host::DialogUser::Choose(Combo(), 0));
@@ -330,7 +289,7 @@ TEST_F(OrvKvTypeSubTest, DisablingTypesOfAPanelThatIsNotBuiltHasNoEffect) {
 
 TEST_F(OrvKvTypeSubTest, WithoutMemoryForTheNotificationNothingIsSentAndThePanelGoesOn) {
     BuiltPanel();
-    SetTypes(1, 0, Keys({"Slot", "Hole"}));
+    SetTypes(1, 0, KeysOf({"Slot", "Hole"}));
     host::FaultPoints::FailCall(1, "notification allocation");
     ASSERT_TRUE(host::DialogUser::Choose(Combo(), 0));
     host::FaultPoints::Stop();
@@ -345,7 +304,7 @@ TEST_F(OrvKvTypeSubTest, WithoutMemoryForTheComboThePanelFailsAsBeforeItsBuildin
     BuiltPanel();
     host::FaultPoints::Stop();
     EXPECT_TRUE(host::Inspector::Children(Panel()).empty());
-    EXPECT_EQ(SetTypes(1, 1, Keys({"Hole"})), PlainFailure());
+    EXPECT_EQ(SetTypes(1, 1, KeysOf({"Hole"})), PlainFailure());
     Panel().DisableTypes(CATDlgDisable);
     EXPECT_EQ(Command().TakeClasses(), Classes());
 }
@@ -354,7 +313,7 @@ TEST_F(OrvKvTypeSubTest, LongListsKeepTheirOrderAndAnyText) {
     BuiltPanel();
     _resources.Write("German/OrvKvCustomisation.CATNls", "Hole = \"Bohrung Ø 6 – größer\";\n");
     host::MessageCatalogs::SetLanguage("German");
-    CATListValCATString keys = Keys({"Hole", ""});
+    CATListValCATString keys = KeysOf({"Hole", ""});
     for (int number = 3; number <= 1000; ++number) {
         CATUnicodeString key;
         key.BuildFromNum(number, "Type_%d");
@@ -375,7 +334,7 @@ class RefillingCommand : public CATCommand {
         : CATCommand(nullptr, "RefillingCommand"), _panel(ioPanel) {}
 
     CATNotifPropagationMode AnalyseNotification(CATCommand*, CATNotification*) override {
-        const CATListValCATString keys = Keys({"Slot"});
+        const CATListValCATString keys = KeysOf({"Slot"});
         if (_answers++ == 0)
             _panel.SetTypes(9, 1, &keys);
         return CATNotifDontTransmitToFather;
@@ -389,7 +348,7 @@ class RefillingCommand : public CATCommand {
 
 TEST_F(OrvKvTypeSubTest, ACommandMayListOtherTypesWhileItHearsOfAChoice) {
     BuiltPanel();
-    SetTypes(1, 0, Keys({"Hole", "Named"}));
+    SetTypes(1, 0, KeysOf({"Hole", "Named"}));
     RefillingCommand command(Panel());
     host::Application::SetActiveCommand(&command);
     EXPECT_TRUE(host::DialogUser::Choose(Combo(), 1));
@@ -399,30 +358,14 @@ TEST_F(OrvKvTypeSubTest, ACommandMayListOtherTypesWhileItHearsOfAChoice) {
     EXPECT_EQ(Combo().GetSelect(), 0);
 }
 
-// A command may fail while it hears of a choice.
-class RaisingCommand : public CATCommand {
-  public:
-    RaisingCommand() : CATCommand(nullptr, "RaisingCommand") {}
-
-    CATNotifPropagationMode AnalyseNotification(CATCommand*, CATNotification*) override {
-        CATThrow(new CATInternalError("Error_InCommand", "CommandCatalog"));
-    }
-};
-
 TEST_F(OrvKvTypeSubTest, AnErrorThatTheCommandRaisesBecomesTheFailingResult) {
     BuiltPanel();
     RaisingCommand command;
     host::Application::SetActiveCommand(&command);
-    const Report report = SetTypes(2, 1, Keys({"Slot", "Hole"}));
+    const Report report = SetTypes(2, 1, KeysOf({"Slot", "Hole"}));
     host::Application::SetActiveCommand(&Command());
-    Report expected = PlainFailure();
-    expected.returns = 2; // that of the notification and that of the panel
-    expected.source = source;
-    expected.traces = {{"OrvKv9SubFrames", 3, "OrvKvTypeSub::SetTypes -> caught ERROR"},
-                       {"OrvKv9SubFrames", 3, "error message: Error_InCommand"}};
-    expected.errorClass = "CATInternalError";
-    expected.key = "Error_InCommand";
-    expected.catalogue = "CommandCatalog";
+    Report expected = CaughtOfCommandIn(source, "OrvKvTypeSub::SetTypes");
+    ++expected.returns; // that of the notification
     EXPECT_EQ(report, expected);
     EXPECT_EQ(LinesOf(Combo()), Lines({"Slot", "Plain hole"}));
     ASSERT_TRUE(host::DialogUser::Choose(Combo(), 1));
@@ -435,12 +378,12 @@ TEST_F(OrvKvTypeSubTest, ADestroyedPanelTakesItsWidgetsAndCallbacksAlong) {
     const int before = host::CommandInspection::AnalyseCallbacks();
     delete _panel;
     EXPECT_EQ(host::CommandInspection::AnalyseCallbacks(), before - 1);
-    EXPECT_EQ(Widget("TypeSelectCombo"), nullptr);
+    EXPECT_FALSE(Exists("TypeSelectCombo"));
 }
 
 TEST_F(OrvKvTypeSubTest, CopiesCarryTheMembersOfTheOriginal) {
     BuiltPanel();
-    SetTypes(5, 0, Keys({"Slot", "Hole"}));
+    SetTypes(5, 0, KeysOf({"Slot", "Hole"}));
     OrvKvTypeSub copy(Panel());
     copy.DisableTypes(CATDlgDisable); // reaches the combo that both share
     EXPECT_EQ(Combo().GetSensitivity(), CATDlgDisable);

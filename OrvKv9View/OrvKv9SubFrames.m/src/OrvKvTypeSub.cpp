@@ -1,8 +1,8 @@
 #include "OrvKvTypeSub.h"
 
 #include "CATDlgCombo.h"
-#include "OrvKvDisplayName.h"
 #include "OrvKvGuard.h"
+#include "OrvKvKeyCombo.h"
 #include "OrvKvLayout.h"
 #include "OrvKvPanelValues.h"
 #include "OrvKvReport.h"
@@ -47,9 +47,8 @@ long OrvKvTypeSub::SetTypes(int iGroupNo, int iTypeNo, const CATListValCATString
         _GroupNo = iGroupNo;
         _TypeKeys = *iTypes;
         _pTypeCombo->ClearLine(OrvKvAllLines);
-        for (int type = 1; type <= _TypeKeys.Size(); ++type)
-            _pTypeCombo->SetLine(OrvKvDisplayName(_TypeKeys[type]), OrvKvAtEnd, OrvKvAppend);
-        _pTypeCombo->SetSelect(iTypeNo < 1 ? NoLine : iTypeNo - 1, OrvKvNotifying);
+        OrvKvAppendKeys(*_pTypeCombo, _TypeKeys);
+        OrvKvSelectKey(*_pTypeCombo, iTypeNo);
         return OrvKvReport::Success(OrvKvHere);
     });
 }

@@ -81,8 +81,19 @@ void GridArranger::Place(const host::Cell& iCell, QGridLayout& ioGrid) const {
     QWidget* const widget = peer->Widget();
     if (peer->IsOneLine())
         widget->setMinimumHeight(!IsLow(*widget) || StandsBesideField(iCell) ? _fieldHeight : 0);
-    ioGrid.addWidget(widget, iCell.row, iCell.column, iCell.rowSpan, iCell.columnSpan,
-                     AlignmentOf(iCell.sides));
+    Qt::Alignment alignment = AlignmentOf(iCell.sides);
+    if (IsRowOfLines(iCell.row))
+        alignment &= ~Qt::AlignTop;
+    ioGrid.addWidget(widget, iCell.row, iCell.column, iCell.rowSpan, iCell.columnSpan, alignment);
+}
+
+// Lines of text beside each other share their middle, since fonts give them different heights.
+bool GridArranger::IsRowOfLines(int iRow) const {
+    return std::all_of(_plan.cells.begin(), _plan.cells.end(), [this, iRow](const host::Cell& iCell) {
+        const Peer* const peer = _tree.PeerOf(*iCell.child);
+        const bool isInRow = iCell.row <= iRow && iRow < iCell.row + iCell.rowSpan;
+        return !isInRow || peer == nullptr || (peer->IsOneLine() && iCell.rowSpan == 1);
+    });
 }
 
 bool GridArranger::StandsBesideField(const host::Cell& iCell) const {

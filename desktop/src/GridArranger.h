@@ -21,6 +21,7 @@ class GridArranger {
 
   private:
     void Place(const host::Cell& iCell, QGridLayout& ioGrid) const;
+    bool IsRowOfLines(int iRow) const;
     bool StandsBesideField(const host::Cell& iCell) const;
 
     const PeerTree& _tree;

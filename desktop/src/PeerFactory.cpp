@@ -8,6 +8,7 @@
 #include "CATDlgEditor.h"
 #include "CATDlgFrame.h"
 #include "CATDlgLabel.h"
+#include "CATDlgMultiList.h"
 #include "CATDlgNotify.h"
 #include "CATDlgPushButton.h"
 #include "CATDlgRadioButton.h"
@@ -21,6 +22,7 @@
 #include "PlaceholderPeer.h"
 #include "PushButtonPeer.h"
 #include "RadioButtonPeer.h"
+#include "TablePeer.h"
 #include "TextEditorPeer.h"
 #include "WindowPeer.h"
 #include "host/Inspector.h"
@@ -65,6 +67,8 @@ Peer* MakePeer(PeerTree& ioTree, CATDialog& ioDialog, Peer* iContainer) {
             return new DropDownPeer(ioTree, *combo, parent);
         return new ListPeer(ioTree, *combo, parent);
     }
+    if (auto* list = dynamic_cast<CATDlgMultiList*>(&ioDialog))
+        return new TablePeer(ioTree, *list, parent);
     if (auto* editor = dynamic_cast<CATDlgEditor*>(&ioDialog)) {
         if (HasStyle(*editor, CATDlgEdtMultiline))
             return new TextEditorPeer(ioTree, *editor, parent);

@@ -2,45 +2,13 @@
 
 #include "CATDlgDialog.h"
 #include "Mnemonics.h"
+#include "OwnTexts.h"
 #include "Texts.h"
-#include "host/MessageCatalogs.h"
 
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 
-#include <algorithm>
-#include <iterator>
-
 namespace desktop {
-
-namespace {
-
-// The texts of one language, named as the host names it.
-struct Language {
-    const char* name;
-    const char* ok;
-    const char* cancel;
-    const char* apply;
-    const char* close;
-    const char* help;
-};
-
-constexpr Language languages[] = {
-    {"", "OK", "Cancel", "Apply", "Close", "Help"},
-    {"German", "OK", "Abbrechen", "Anwenden", "Schließen", "Hilfe"},
-    {"French", "OK", "Annuler", "Appliquer", "Fermer", "Aide"},
-    {"Japanese", "OK", "キャンセル", "適用", "閉じる", "ヘルプ"},
-};
-
-const Language& CurrentLanguage() {
-    const auto* const found =
-        std::find_if(std::begin(languages), std::end(languages), [](const Language& iLanguage) {
-            return host::MessageCatalogs::Language() == iLanguage.name;
-        });
-    return found == std::end(languages) ? languages[0] : *found;
-}
-
-} // namespace
 
 StandardButtons::StandardButtons(QWidget* iParent, const std::vector<CATULong>& iButtons,
                                  const std::function<void(CATULong)>& iOnPressed)
@@ -59,18 +27,17 @@ StandardButtons::StandardButtons(QWidget* iParent, const std::vector<CATULong>& 
 }
 
 QString StandardButtons::TextOf(CATULong iButton) {
-    const Language& language = CurrentLanguage();
     switch (iButton) {
     case CATDlgWndOK:
-        return QString::fromUtf8(language.ok);
+        return InCurrentLanguage(OwnText::Ok);
     case CATDlgWndCANCEL:
-        return QString::fromUtf8(language.cancel);
+        return InCurrentLanguage(OwnText::Cancel);
     case CATDlgWndAPPLY:
-        return QString::fromUtf8(language.apply);
+        return InCurrentLanguage(OwnText::Apply);
     case CATDlgWndCLOSE:
-        return QString::fromUtf8(language.close);
+        return InCurrentLanguage(OwnText::Close);
     default:
-        return QString::fromUtf8(language.help);
+        return InCurrentLanguage(OwnText::Help);
     }
 }
 

@@ -1,0 +1,42 @@
+#ifndef desktop_TablePeer_H
+#define desktop_TablePeer_H
+
+#include "Peer.h"
+
+#include <vector>
+
+class CATDlgMultiList;
+
+namespace desktop {
+
+class TableModel;
+class TableView;
+
+// A list with columns.
+class TablePeer : public Peer {
+  public:
+    TablePeer(PeerTree& ioTree, CATDlgMultiList& ioList, QWidget* iParent);
+
+    void Detach() override;
+    QWidget* Field() const override { return Widget(); }
+
+  protected:
+    void ShowState(unsigned int iKinds) override;
+
+  private:
+    bool IsRefilled(unsigned int iKinds) const;
+    void ShowExtent();
+    void ShowSelection();
+    void Select(const std::vector<int>& iRows);
+    void Activate(int iRow, int iColumn);
+
+    CATDlgMultiList& _list;
+    TableView* _view;
+    TableModel* _rows;
+    bool _isSelecting = false;   // the person
+    bool _isUnselecting = false; // the person, the last row that was selected
+};
+
+} // namespace desktop
+
+#endif

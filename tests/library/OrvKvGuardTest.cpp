@@ -1,4 +1,5 @@
-// Guarded blocks: a raised platform error becomes a result or a message, everything else passes.
+// Guarded blocks: a raised platform error becomes a result, a message or a trace; everything else passes or
+// is ignored.
 
 #include "OrvKvGuard.h"
 
@@ -107,10 +108,52 @@ TEST_F(OrvKvGuardTest, LetsAnObjectThatIsNoErrorPassUnchanged) {
     EXPECT_EQ(TakeMessages(), ShownMessages());
 }
 
+TEST_F(OrvKvGuardTest, ABlockThatIgnoresOthersGivesTheResultOfItsBodyAndTurnsErrorsIntoResults) {
+    EXPECT_EQ(OrvKvGuard::RunIgnoringOthers(operation, here, [] { return S_FALSE; }), S_FALSE);
+    const Report plain = Observe([] { return OrvKvGuard::Run(operation, here, Raise); });
+    EXPECT_EQ(Observe([] { return OrvKvGuard::RunIgnoringOthers(operation, here, Raise); }), plain);
+    EXPECT_EQ(plain.traces, caughtLines);
+    EXPECT_EQ(host::LiveObjects::Count("CATInputError"), 0);
+}
+
+TEST_F(OrvKvGuardTest, ABlockThatIgnoresOthersReleasesAnObjectThatIsNoErrorAndSucceeds) {
+    const auto raising = [](CATBaseUnknown* iRaised) {
+        return Observe([iRaised] {
+            return OrvKvGuard::RunIgnoringOthers(operation, here, [iRaised]() -> long { CATThrow(iRaised); });
+        });
+    };
+    EXPECT_EQ(raising(new CATNotification()), SuccessIn(source));
+    EXPECT_EQ(host::LiveObjects::Count("CATNotification"), 0);
+    EXPECT_EQ(raising(nullptr), SuccessIn(source));
+}
+
+TEST_F(OrvKvGuardTest, AQuietBlockTracesAndReleasesAnError) {
+    EXPECT_FALSE(OrvKvGuard::RunQuietly(operation, Raise));
+    EXPECT_EQ(Traces().Take(), caughtLines);
+    EXPECT_EQ(host::ErrorInspection::LastError(), nullptr);
+    EXPECT_EQ(host::LiveObjects::Count("CATInputError"), 0);
+}
+
+TEST_F(OrvKvGuardTest, AQuietBlockReleasesAnObjectThatIsNoErrorWithoutATrace) {
+    EXPECT_FALSE(OrvKvGuard::RunQuietly(operation, [] { CATThrow(new CATNotification()); }));
+    EXPECT_EQ(host::LiveObjects::Count("CATNotification"), 0);
+    EXPECT_FALSE(OrvKvGuard::RunQuietly(operation, [] { CATThrow(nullptr); }));
+    EXPECT_EQ(Traces().Take(), TraceLines());
+}
+
+TEST_F(OrvKvGuardTest, AQuietBlockTellsThatItRanThrough) {
+    bool ran = false;
+    EXPECT_TRUE(OrvKvGuard::RunQuietly(operation, [&ran] { ran = true; }));
+    EXPECT_TRUE(ran);
+    EXPECT_EQ(Traces().Take(), TraceLines());
+}
+
 TEST_F(OrvKvGuardTest, LetsAnExceptionOfTheLanguagePass) {
     const auto raise = []() -> long { throw std::runtime_error("not ours"); };
     EXPECT_THROW(OrvKvGuard::Run(operation, here, raise), std::runtime_error);
     EXPECT_THROW(OrvKvGuard::RunShowing(operation, raise), std::runtime_error);
+    EXPECT_THROW(OrvKvGuard::RunIgnoringOthers(operation, here, raise), std::runtime_error);
+    EXPECT_THROW(OrvKvGuard::RunQuietly(operation, raise), std::runtime_error);
     EXPECT_EQ(Traces().Take(), TraceLines());
 }
 

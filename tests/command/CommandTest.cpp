@@ -3,9 +3,13 @@
 #include "CATDlgCombo.h"
 #include "CATDlgDialog.h"
 #include "CATDlgEditor.h"
+#include "CATDlgMultiList.h"
+#include "CATDlgPushButton.h"
 #include "engineering/CatalogueLoader.h"
+#include "engineering/PartLoader.h"
 #include "host/DialogPath.h"
 #include "host/DialogUser.h"
+#include "host/EventScope.h"
 #include "host/MessageCatalogs.h"
 
 #include <ostream>
@@ -57,14 +61,23 @@ const engineering::FeatureCatalogue& CommandTest::Shipped() {
     return *loaded.catalogue;
 }
 
+const engineering::Part& CommandTest::SamplePart() {
+    static const engineering::PartResult loaded = engineering::LoadPart(KELVANE_PART);
+    if (!loaded.part)
+        throw std::runtime_error("the shipped part has problems: " + ToText(loaded.problems.front()));
+    return *loaded.part;
+}
+
 bool CommandTest::Start(FeatureCommand::Mode iMode, const engineering::FeatureCatalogue& iCatalogue) {
     _application.reset();
     _recorder.reset();
-    _command.emplace(iCatalogue, iMode);
+    _command.emplace(iCatalogue, SamplePart(), iMode);
     _recorder.emplace(&*_command, &_reader);
     _application.emplace();
     host::Application::SetActiveCommand(&*_recorder);
-    return _command->Start();
+    const bool isStarted = _command->Start();
+    host::EventScope::RunIdle();
+    return isStarted;
 }
 
 host::Outcome CommandTest::ChooseGroup(int iLine) {
@@ -77,6 +90,14 @@ host::Outcome CommandTest::ChooseType(int iLine) {
 
 host::Outcome CommandTest::ChooseSet(int iLine) {
     return Choose("ParameterSetCmb", iLine);
+}
+
+host::Outcome CommandTest::SelectSet(int iRow) {
+    return host::DialogUser::Select(List("ParameterSetMul"), {iRow});
+}
+
+host::Outcome CommandTest::PressPushButton(const std::string& iName) {
+    return host::DialogUser::Press(Find<CATDlgPushButton>(iName));
 }
 
 host::Outcome CommandTest::PressButton(CATULong iButton) {
@@ -98,14 +119,49 @@ Texts CommandTest::LinesOf(const std::string& iCombo) {
     return lines;
 }
 
-std::string CommandTest::Acknowledgement() {
-    return Find<CATDlgEditor>("ParametersEdt").GetText().ConvertToUTF8();
+CATDlgMultiList& CommandTest::List(const std::string& iName) {
+    return Find<CATDlgMultiList>(iName);
 }
 
-std::string CommandTest::Acknowledged(int iLine) {
-    CATUnicodeString text;
-    Find<CATDlgEditor>("ParametersEdt").GetLine(text, iLine);
-    return text.ConvertToUTF8();
+Texts CommandTest::Rows(const std::string& iList) {
+    Texts rows;
+    for (int row = 0; row < List(iList).GetLineCount(); ++row)
+        rows.push_back(Row(iList, row));
+    return rows;
+}
+
+std::string CommandTest::Row(const std::string& iList, int iRow) {
+    const CATDlgMultiList& list = List(iList);
+    std::string cells;
+    for (int column = 0; column < list.GetColumnCount(); ++column) {
+        CATUnicodeString text;
+        list.GetColumnItem(column, text, iRow);
+        cells += std::string(column == 0 ? "" : "|") + text.ConvertToUTF8();
+    }
+    return cells;
+}
+
+std::string CommandTest::Columns(const std::string& iList) {
+    const CATDlgMultiList& list = List(iList);
+    std::string titles;
+    for (int column = 0; column < list.GetColumnCount(); ++column) {
+        CATUnicodeString title;
+        list.GetColumnTitle(column, title);
+        titles += std::string(column == 0 ? "" : "|") + title.ConvertToUTF8();
+    }
+    return titles;
+}
+
+std::string CommandTest::RowOf(const std::string& iParameter) {
+    for (const std::string& row : Rows("ParameterMul"))
+        if (row.find("|" + iParameter + "|") != std::string::npos)
+            return row;
+    return {};
+}
+
+std::string CommandTest::Input(int iNumber) {
+    const auto& editor = Find<CATDlgEditor>("Input" + std::to_string(iNumber) + "Edt");
+    return host::DialogUser::CanSee(editor) ? editor.GetText().ConvertToUTF8() : "hidden";
 }
 
 std::vector<HeardNotification> CommandTest::TakeHeard() {

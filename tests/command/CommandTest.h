@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engineering/FeatureCatalogue.h"
+#include "engineering/Part.h"
 #include "host/Application.h"
 #include "host/Outcome.h"
 #include "session/NotificationRecorder.h"
@@ -11,6 +12,7 @@
 #include <optional>
 
 class CATDlgCombo;
+class CATDlgMultiList;
 
 namespace command {
 
@@ -22,7 +24,7 @@ using workbench::FeatureCommand;
 //
 //     Start();
 //     ChooseType(2);
-//     EXPECT_EQ(Acknowledged(0), "DIN 74 A M3");
+//     EXPECT_EQ(Row("ParameterMul", 0), "|FORM|(A)||Form according to the standard");
 class CommandTest : public support::AuditedTest {
   protected:
     CommandTest();
@@ -30,6 +32,8 @@ class CommandTest : public support::AuditedTest {
 
     // The catalogue that the program ships with, loaded once.
     static const engineering::FeatureCatalogue& Shipped();
+    // The part that the program ships with.
+    static const engineering::Part& SamplePart();
 
     // Opens the dialog. Without a catalogue it is the shipped one.
     [[nodiscard]] bool Start(FeatureCommand::Mode iMode = FeatureCommand::Mode::Parameters,
@@ -38,14 +42,24 @@ class CommandTest : public support::AuditedTest {
 
     static host::Outcome ChooseGroup(int iLine);
     static host::Outcome ChooseType(int iLine);
+    // A line of the selector's combo, which only mode Parameters shows.
     static host::Outcome ChooseSet(int iLine);
+    // A row of the table of sets, which only mode Sets has.
+    static host::Outcome SelectSet(int iRow);
+    static host::Outcome PressPushButton(const std::string& iName);
     static host::Outcome PressButton(CATULong iButton);
 
     static CATDlgCombo& Combo(const std::string& iName);
     static Texts LinesOf(const std::string& iCombo);
-    // What the command has acknowledged, and one line of it.
-    static std::string Acknowledgement();
-    static std::string Acknowledged(int iLine);
+    static CATDlgMultiList& List(const std::string& iName);
+    // The cells of all rows or of one row, with a bar between them; and the titles of the columns.
+    static Texts Rows(const std::string& iList);
+    static std::string Row(const std::string& iList, int iRow);
+    static std::string Columns(const std::string& iList);
+    // The row of a parameter in the parameter list; empty when it has none.
+    static std::string RowOf(const std::string& iParameter);
+    // What input 1, 2 or 3 shows; "hidden" when it is.
+    static std::string Input(int iNumber);
 
     // What the command has heard since the last call.
     std::vector<HeardNotification> TakeHeard();

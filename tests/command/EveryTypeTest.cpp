@@ -8,7 +8,6 @@ namespace command {
 struct Language {
     const char* folder;
     const char* title;
-    const char* standard; // what stands before the standard
 };
 
 void PrintTo(const Language& iLanguage, std::ostream* ioStream) {
@@ -26,32 +25,29 @@ class EveryTypeTest : public CommandTest, public testing::WithParamInterface<Lan
     static std::string NameOf(const std::string& iKey) {
         return host::MessageCatalogs::Text("OrvKvCustomisation", iKey).value_or("no name of " + iKey);
     }
-    // The acknowledgement is the set's: its name, its type's name, a line for each parameter, the standard.
-    void ExpectAcknowledged(const engineering::FeatureType& iType, const engineering::ParameterSet& iSet) {
-        const int parameters = static_cast<int>(iType.Parameters().size());
-        EXPECT_EQ(Acknowledged(0), iSet.name);
-        EXPECT_EQ(Acknowledged(1), NameOf(iType.Description().key));
-        for (int number = 0; number < parameters; ++number) {
-            const std::string line = Acknowledged(3 + number);
-            const std::string name = iType.Parameters()[static_cast<std::size_t>(number)].name;
-            EXPECT_EQ(line.substr(0, name.size() + 3), name + " = ");
-            EXPECT_EQ(line.back(), ')') << "no meaning in " << line;
-            const bool isTabulated = iSet.values[static_cast<std::size_t>(number)].value.has_value();
-            EXPECT_EQ(line.find("= —") == std::string::npos, isTabulated) << line;
+    // The list has a row for every value that the set tabulates, with a value and a meaning.
+    static void ExpectListed(const engineering::FeatureType& iType, const engineering::ParameterSet& iSet) {
+        for (std::size_t number = 0; number < iType.Parameters().size(); ++number) {
+            const std::string& name = iType.Parameters()[number].name;
+            const std::string row = RowOf(name);
+            ASSERT_EQ(!row.empty(), iSet.values[number].value.has_value()) << name;
+            if (row.empty())
+                continue;
+            EXPECT_EQ(row.find("|" + name + "||"), std::string::npos) << "no value in " << row;
+            EXPECT_NE(row.substr(row.rfind('|')), "| ") << "no meaning in " << row;
         }
-        EXPECT_EQ(Acknowledged(4 + parameters), GetParam().standard + iType.Description().standard);
-        EXPECT_EQ(Command().SetName(), iSet.name);
     }
-    void ExpectEverySetAcknowledged(const engineering::FeatureType& iType) {
+    void ExpectEverySetListed(const engineering::FeatureType& iType) {
         ASSERT_EQ(LinesOf("ParameterSetCmb").size(), iType.Sets().size());
         for (std::size_t set = 0; set < iType.Sets().size(); ++set) {
             ASSERT_TRUE(ChooseSet(static_cast<int>(set)));
-            ExpectAcknowledged(iType, iType.Sets()[set]);
+            EXPECT_EQ(Command().SetName(), iType.Sets()[set].name);
+            ExpectListed(iType, iType.Sets()[set]);
         }
     }
 };
 
-TEST_P(EveryTypeTest, CanBeChosenAndEverySetIsAcknowledged) {
+TEST_P(EveryTypeTest, CanBeChosenAndEverySetIsListed) {
     ASSERT_TRUE(Start());
     int types = 0;
     for (std::size_t group = 0; group < Shipped().Groups().size(); ++group) {
@@ -63,7 +59,7 @@ TEST_P(EveryTypeTest, CanBeChosenAndEverySetIsAcknowledged) {
             SCOPED_TRACE(type);
             ASSERT_TRUE(ChooseType(line++));
             EXPECT_EQ(Command().TypeKey(), type);
-            ExpectEverySetAcknowledged(*Shipped().Type(type));
+            ExpectEverySetListed(*Shipped().Type(type));
             ++types;
         }
     }
@@ -72,20 +68,37 @@ TEST_P(EveryTypeTest, CanBeChosenAndEverySetIsAcknowledged) {
 
 TEST_P(EveryTypeTest, TheDialogSpeaksTheLanguage) {
     ASSERT_TRUE(Start());
-    const Texts keys = host::MessageCatalogs::Keys("FeatureDialog", "");
-    EXPECT_EQ(keys, (Texts{"GroupCmb.ShortHelp", "GroupLab.Title", "ParametersEdt.ShortHelp",
-                           "ParametersLab.Title", "SelectorLab.Title", "Title"}));
-    EXPECT_EQ(host::MessageCatalogs::Keys("FeatureDialog", GetParam().folder), keys);
-    EXPECT_EQ(host::MessageCatalogs::Keys("FeatureCommand", GetParam().folder),
-              (Texts{"No", "NoSet", "Standard", "Yes"}));
+    for (const char* catalogue : {"FeatureCommand", "FeatureDialog", "OrvKvParametersDescription"}) {
+        const Texts keys = host::MessageCatalogs::Keys(catalogue, "");
+        EXPECT_FALSE(keys.empty());
+        EXPECT_EQ(host::MessageCatalogs::Keys(catalogue, GetParam().folder), keys);
+    }
     EXPECT_EQ(host::MessageCatalogs::Text("FeatureDialog", "Title"), GetParam().title);
     EXPECT_TRUE(host::MessageCatalogs::Problems().empty());
 }
 
-const Language languages[] = {{"", "Kelvane Feature", "Standard: "},
-                              {"German", "Kelvane-Feature", "Norm: "},
-                              {"French", "Fonction Kelvane", "Norme : "},
-                              {"Japanese", "Kelvane フィーチャー", "規格: "}};
+TEST_P(EveryTypeTest, EverySetStandsInTheTableOfSets) {
+    ASSERT_TRUE(Start(FeatureCommand::Mode::Sets));
+    for (std::size_t group = 0; group < Shipped().Groups().size(); ++group) {
+        ASSERT_TRUE(ChooseGroup(static_cast<int>(group)));
+        int line = 0;
+        for (const std::string& key : *Shipped().TypesOf(Shipped().Groups()[group])) {
+            SCOPED_TRACE(key);
+            ASSERT_TRUE(ChooseType(line++));
+            const engineering::FeatureType& type = *Shipped().Type(key);
+            const Texts rows = Rows("ParameterSetMul");
+            ASSERT_EQ(rows.size(), type.Sets().size());
+            for (std::size_t set = 0; set < rows.size(); ++set)
+                EXPECT_EQ(rows[set].substr(0, rows[set].find('|')), type.Sets()[set].name);
+            EXPECT_EQ(Rows("CurrentParameterMul"), Texts({rows[0]}));
+        }
+    }
+}
+
+const Language languages[] = {{"", "Kelvane Feature"},
+                              {"German", "Kelvane-Feature"},
+                              {"French", "Fonction Kelvane"},
+                              {"Japanese", "Kelvane フィーチャー"}};
 
 INSTANTIATE_TEST_SUITE_P(Languages, EveryTypeTest, testing::ValuesIn(languages));
 

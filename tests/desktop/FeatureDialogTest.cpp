@@ -1,18 +1,20 @@
 // The feature command in its real window: a person chooses with mouse and keyboard, and the command answers.
 
 #include "CATDlgCombo.h"
-#include "CATDlgEditor.h"
 #include "command/CommandTest.h"
 #include "desktop/Desktop.h"
 #include "host/DialogPath.h"
+#include "host/EventScope.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListView>
-#include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QTableView>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -22,7 +24,7 @@ using command::Texts;
 class FeatureDialogTest : public command::CommandTest {
   protected:
     void SetUp() override {
-        ASSERT_TRUE(Start());
+        ASSERT_TRUE(Start(_mode));
         _desktop = std::make_unique<desktop::Desktop>();
         Window().activateWindow();
         QApplication::processEvents();
@@ -42,8 +44,17 @@ class FeatureDialogTest : public command::CommandTest {
     QWidget& Window() { return Shown<QWidget>("FeatureDialog"); }
     QListView& Types() { return Shown<QListView>("TypeSelectCombo"); }
     QComboBox& Sets() { return Shown<QComboBox>("ParameterSetCmb"); }
-    std::string ShownParameters() {
-        return Shown<QPlainTextEdit>("ParametersEdt").toPlainText().toStdString();
+    QTableView& Table(const std::string& iName) { return Shown<QTableView>(iName); }
+    static std::string Cell(const QTableView& iTable, int iRow, int iColumn) {
+        return iTable.model()->index(iRow, iColumn).data().toString().toStdString();
+    }
+    static void DoubleClick(QTableView& ioTable, int iRow, int iColumn) {
+        const QPoint place = ioTable.visualRect(ioTable.model()->index(iRow, iColumn)).center();
+        QTest::mouseClick(ioTable.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseDClick(ioTable.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    }
+    void Press(const std::string& iButton) {
+        QTest::mouseClick(&Shown<QPushButton>(iButton), Qt::LeftButton);
     }
 
     // The classes of the panels' notifications that the command has heard since the last call.
@@ -55,6 +66,7 @@ class FeatureDialogTest : public command::CommandTest {
     }
 
     std::unique_ptr<desktop::Desktop> _desktop;
+    command::FeatureCommand::Mode _mode = command::FeatureCommand::Mode::Parameters;
 };
 
 const Texts aTypeAndItsFirstSet = {"OrvKvTypeSelectedNotification", "OrvKvParameterSetSelectedNotification"};
@@ -66,7 +78,8 @@ TEST_F(FeatureDialogTest, AClickOnATypeReachesTheCommandWhichListsItsSetsAndShow
     EXPECT_EQ(Command().TypeKey(), "Counterbore");
     EXPECT_EQ(Sets().count(), 78);
     EXPECT_EQ(Sets().currentText().toStdString(), Command().SetName());
-    EXPECT_EQ(ShownParameters().substr(0, Command().SetName().size()), Command().SetName());
+    EXPECT_EQ(Table("ParameterMul").model()->rowCount(), 9);
+    EXPECT_EQ(Cell(Table("ParameterMul"), 4, 2), "3.2mm");
 }
 
 TEST_F(FeatureDialogTest, ArrowKeysChooseATypeAndThenASet) {
@@ -79,7 +92,78 @@ TEST_F(FeatureDialogTest, ArrowKeysChooseATypeAndThenASet) {
     QTest::keyClick(&Sets(), Qt::Key_Down);
     EXPECT_EQ(TakeClasses(), Texts({"OrvKvParameterSetSelectedNotification"}));
     EXPECT_NE(Command().SetName(), first);
-    EXPECT_EQ(ShownParameters().substr(0, Command().SetName().size()), Command().SetName());
+    EXPECT_EQ(Cell(Table("ParameterMul"), 4, 0), "*");
+    EXPECT_EQ(Cell(Table("ParameterMul"), 4, 2), "3.4mm");
+}
+
+TEST_F(FeatureDialogTest, AChosenGroupShowsItsTypesAndItsInputs) {
+    auto& groups = Shown<QComboBox>("GroupCmb");
+    groups.setFocus();
+    QTest::keyClick(&groups, Qt::Key_Down);
+    EXPECT_EQ(Command().TypeKey(), "TappedBlindHole");
+    EXPECT_TRUE(Shown<QPushButton>("Input3Pbt").isVisible());
+    QTest::keyClick(&groups, Qt::Key_Up);
+    EXPECT_EQ(Command().TypeKey(), "ClearanceHole");
+    EXPECT_FALSE(Shown<QPushButton>("Input3Pbt").isVisible());
+}
+
+TEST_F(FeatureDialogTest, APickFillsTheInputWhoseButtonWasPressed) {
+    Press("Input2Pbt");
+    EXPECT_EQ(Command().AwaitedInput(), 2);
+    EXPECT_TRUE(Command().Pick("Top face"));
+    host::EventScope::RunIdle();
+    EXPECT_EQ(Shown<QLineEdit>("Input2Edt").text().toStdString(), "Top face");
+    Press("InvertPbt");
+    EXPECT_EQ(Shown<QLineEdit>("Input2Edt").text().toStdString(), "Top face (inverted)");
+    EXPECT_EQ(TakeClasses(), Texts({"OrvKvSetInputGeometryNotification", "OrvKvInvertFeatureNotification"}));
+}
+
+TEST_F(FeatureDialogTest, ADoubleClickOnARowTellsTheCommandWhichParameter) {
+    DoubleClick(Table("ParameterMul"), 2, 2);
+    const auto heard = TakeHeard();
+    const auto found = std::find_if(heard.begin(), heard.end(), [](const command::HeardNotification& each) {
+        return each.className == "OrvKvParameterListDoubleClickedNotification";
+    });
+    ASSERT_NE(found, heard.end());
+    EXPECT_EQ(found->values["parameterName"], "DH");
+}
+
+TEST_F(FeatureDialogTest, AValueThatTheCommandChangesIsShownAndMarked) {
+    EXPECT_TRUE(Command().SetValue("DH", "2,5"));
+    host::EventScope::RunIdle();
+    EXPECT_EQ(Cell(Table("ParameterMul"), 2, 0), "*");
+    EXPECT_EQ(Cell(Table("ParameterMul"), 2, 2), "2.5mm");
+}
+
+class SetDialogTest : public FeatureDialogTest {
+  protected:
+    SetDialogTest() { _mode = command::FeatureCommand::Mode::Sets; }
+};
+
+TEST_F(SetDialogTest, AClickOnARowChoosesTheSet) {
+    QTableView& sets = Table("ParameterSetMul");
+    const QPoint place = sets.visualRect(sets.model()->index(3, 0)).center();
+    QTest::mouseClick(sets.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    EXPECT_EQ(Command().SetName(), "ISO 273 M2 fine");
+    EXPECT_EQ(Cell(Table("CurrentParameterMul"), 0, 0), "ISO 273 M2 fine");
+    EXPECT_EQ(TakeClasses(), Texts({"OrvKvParameterSetSelectedNotification",
+                                    "OrvKvModifiedParameterInMultiListNotification"}));
+}
+
+TEST_F(SetDialogTest, ADoubleClickOnACellOfTheLowerTableAsksForItsEditor) {
+    DoubleClick(Table("CurrentParameterMul"), 0, 3);
+    const Texts classes = TakeClasses();
+    EXPECT_EQ(classes.back(), "OrvKvParameterListDoubleClickedNotification");
+}
+
+// The tables are made anew for the columns of another type, in the middle of the click that asks for it.
+TEST_F(SetDialogTest, AClickOnATypeBringsTablesWithItsColumns) {
+    const QRect line = Types().visualRect(Types().model()->index(1, 0));
+    QTest::mouseClick(Types().viewport(), Qt::LeftButton, Qt::NoModifier, line.center());
+    EXPECT_EQ(Table("ParameterSetMul").model()->rowCount(), 78);
+    EXPECT_EQ(Table("ParameterSetMul").model()->headerData(1, Qt::Horizontal).toString().toStdString(),
+              "THREAD");
+    EXPECT_TRUE(Table("CurrentParameterMul").isVisible());
 }
 
 TEST_F(FeatureDialogTest, TheSelectorExplainsItselfInABalloon) {

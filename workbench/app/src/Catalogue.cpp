@@ -3,6 +3,7 @@
 #include "ExitStatus.h"
 #include "MessageFiles.h"
 #include "engineering/CatalogueLoader.h"
+#include "engineering/PartLoader.h"
 #include "host/MessageCatalogs.h"
 #include "session/Counted.h"
 
@@ -44,20 +45,23 @@ std::string Summary(const engineering::FeatureCatalogue& catalogue) {
 
 } // namespace
 
-std::optional<engineering::FeatureCatalogue> PrepareCatalogue(const Options& options,
-                                                              const DataFolders& data) {
-    const fs::path folder = options.catalogue.empty() ? data.Catalogue() : fs::path(options.catalogue);
+std::optional<WorkData> PrepareData(const Options& options, const DataFolders& folders) {
+    const fs::path folder = options.catalogue.empty() ? folders.Catalogue() : fs::path(options.catalogue);
     if (!IsFolder(folder)) {
         ComplainOfMissing(folder);
         return std::nullopt;
     }
     engineering::LoadResult loaded = engineering::CatalogueLoader::Load(folder);
+    engineering::PartResult part = engineering::LoadPart(folders.Part());
     Print(loaded.problems, std::cerr);
-    for (const fs::path& messages : data.Messages())
+    Print(part.problems, std::cerr);
+    for (const fs::path& messages : folders.Messages())
         host::MessageCatalogs::AddFolder(messages.string());
     Print(UseMessageFiles(folder), std::cerr); // a text that cannot be read is shown as its key
     host::MessageCatalogs::SetLanguage(options.language);
-    return std::move(loaded.catalogue);
+    if (!loaded.catalogue || !part.part)
+        return std::nullopt;
+    return WorkData{std::move(*loaded.catalogue), std::move(*part.part)};
 }
 
 int CheckCatalogue(const std::string& folder) {

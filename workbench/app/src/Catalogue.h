@@ -1,17 +1,22 @@
 #pragma once
 
-// The catalogue that the program works with, and the texts that belong to it.
+// The catalogue and the part that the program works with, and the texts that belong to them.
 
 #include "DataFolders.h"
 #include "Options.h"
 #include "engineering/FeatureCatalogue.h"
+#include "engineering/Part.h"
 
 namespace app {
 
-/// Reads the catalogue and lets the texts of its language be found. None, and every problem on standard
-/// error, when it cannot be used.
-std::optional<engineering::FeatureCatalogue> PrepareCatalogue(const Options& options,
-                                                              const DataFolders& data);
+struct WorkData {
+    engineering::FeatureCatalogue catalogue;
+    engineering::Part part;
+};
+
+/// Reads catalogue and part and lets the texts of the language be found. None, and every problem on standard
+/// error, when one of them cannot be used.
+std::optional<WorkData> PrepareData(const Options& options, const DataFolders& folders);
 
 /// Prints each problem of a catalogue folder to standard output, or one line when there is none.
 int CheckCatalogue(const std::string& folder);

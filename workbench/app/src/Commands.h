@@ -2,13 +2,13 @@
 
 // What the program does with the dialog. Each gives the exit status.
 
+#include "Catalogue.h"
 #include "Options.h"
-#include "engineering/FeatureCatalogue.h"
 
 namespace app {
 
-int Open(const Options& options, const engineering::FeatureCatalogue& catalogue);
-int Replay(const Options& options, const engineering::FeatureCatalogue& catalogue);
-int Dump(const Options& options, const engineering::FeatureCatalogue& catalogue);
+int Open(const Options& options, const WorkData& data);
+int Replay(const Options& options, const WorkData& data);
+int Dump(const Options& options, const WorkData& data);
 
 } // namespace app

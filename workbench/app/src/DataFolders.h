@@ -13,6 +13,7 @@ struct DataFolders {
     std::filesystem::path root;
 
     std::filesystem::path Catalogue() const { return root / "workbench" / "catalogue"; }
+    std::filesystem::path Part() const { return root / "workbench" / "parts" / "bracket.csv"; }
     /// Folders of the texts of the panels and of the dialog.
     std::vector<std::filesystem::path> Messages() const;
 };

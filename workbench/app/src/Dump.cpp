@@ -25,9 +25,10 @@ int PlayFirst(session::Player& player, const session::Script& script) {
 
 } // namespace
 
-int Dump(const Options& options, const engineering::FeatureCatalogue& catalogue) {
-    Scene scene(catalogue, options.mode);
+int Dump(const Options& options, const WorkData& data) {
+    Scene scene(data, options.mode);
     session::Player player(scene.Recorder(), session::Journal::WithoutChanges);
+    scene.AddStepsTo(player);
     session::Reading reading{session::Script(), {}};
     if (!options.file.empty())
         reading = session::ReadScript(options.file, player.Words());

@@ -39,19 +39,19 @@ std::string FaultOfEnvironment() {
 }
 
 int RunWithCatalogue(const Options& options) {
-    const FoundData data = FindData();
-    if (!data.folders)
-        return Complain(ExitUnusable, data.reason.c_str());
-    const std::optional<engineering::FeatureCatalogue> catalogue = PrepareCatalogue(options, *data.folders);
-    if (!catalogue)
+    const FoundData found = FindData();
+    if (!found.folders)
+        return Complain(ExitUnusable, found.reason.c_str());
+    const std::optional<WorkData> data = PrepareData(options, *found.folders);
+    if (!data)
         return ExitUnusable;
     switch (options.command) {
     case Options::Command::Replay:
-        return Replay(options, *catalogue);
+        return Replay(options, *data);
     case Options::Command::Dump:
-        return Dump(options, *catalogue);
+        return Dump(options, *data);
     default:
-        return Open(options, *catalogue);
+        return Open(options, *data);
     }
 }
 

@@ -10,15 +10,16 @@ namespace app {
 
 using workbench::FeatureCommand;
 
-int Open(const Options& options, const engineering::FeatureCatalogue& catalogue) {
+int Open(const Options& options, const WorkData& data) {
     const OpenedWindows windows = OpenWindowSystem(Display::Required);
     if (!windows.system)
         return Complain(ExitUnusable, windows.reason.c_str());
-    Scene scene(catalogue, options.mode);
+    Scene scene(data, options.mode);
     const std::unique_ptr<DialogWindows> dialogs = windows.system->ShowDialogs(Answering::ByPerson);
     scene.Command().WhenEnded([&windows] { windows.system->Quit(); });
     if (!scene.Start())
         return Complain(ExitFailed, "the feature dialog cannot be made: memory is short");
+    dialogs->ShowPart(data.part, scene.Command());
     dialogs->Settle();
     if (scene.Command().CurrentState() == FeatureCommand::State::Running)
         windows.system->Run();

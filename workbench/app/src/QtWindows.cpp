@@ -3,6 +3,7 @@
 #include "CATDlgWindow.h"
 #include "Environment.h"
 #include "ExitStatus.h"
+#include "PartTree.h"
 #include "desktop/Desktop.h"
 #include "host/EventScope.h"
 #include "host/Inspector.h"
@@ -59,7 +60,19 @@ class QtDialogWindows : public DialogWindows {
             host::Messages::SetFrontEnd(nullptr);
     }
 
+    ~QtDialogWindows() override {
+        if (_command != nullptr)
+            _command->WhenInputsChange(nullptr);
+    }
+
     // DialogWindows
+    void ShowPart(const engineering::Part& part, workbench::FeatureCommand& command) override {
+        _command = &command;
+        _partTree = std::make_unique<PartTree>(part, [this](const std::string& name) { return Pick(name); });
+        command.WhenInputsChange([this] { ShowInputs(); });
+        ShowInputs();
+        _partTree->show();
+    }
     void Settle() override {
         host::EventScope::RunIdle();
         QApplication::processEvents();
@@ -74,11 +87,30 @@ class QtDialogWindows : public DialogWindows {
             if (!_desktop.SavePicture(*window, (folder / file).string()))
                 return folder / file;
         }
-        return {};
+        return SavePartTree(folder / (name + "-PartTree.png"));
     }
 
   private:
+    // A pick is one event of the main loop, like anything else that a person does.
+    host::Outcome Pick(const std::string& name) {
+        const host::EventScope event;
+        return _command->Pick(name);
+    }
+
+    void ShowInputs() {
+        const std::set<engineering::ElementKind> kinds = _command->AwaitedKinds();
+        _partTree->ShowWanted({kinds.begin(), kinds.end()});
+        _partTree->MarkPicked(_command->PickedElements());
+    }
+
+    std::filesystem::path SavePartTree(const std::filesystem::path& file) {
+        const bool isSaved = !_partTree || _partTree->grab().save(QString::fromStdString(file.string()));
+        return isSaved ? std::filesystem::path() : file;
+    }
+
     desktop::Desktop _desktop;
+    workbench::FeatureCommand* _command = nullptr; ///< not owned
+    std::unique_ptr<PartTree> _partTree;           ///< none before ShowPart
 };
 
 class QtWindowSystem : public WindowSystem {

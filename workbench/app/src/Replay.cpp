@@ -54,8 +54,7 @@ class Showing : public session::StepListener {
 /// One replay: what it writes to, and the session itself.
 class Replaying {
   public:
-    Replaying(const Options& options, const engineering::FeatureCatalogue& catalogue)
-        : _options(options), _catalogue(catalogue) {}
+    Replaying(const Options& options, const WorkData& data) : _options(options), _data(data) {}
 
     int Run() {
         if (_options.desktop || !_options.pictures.empty()) {
@@ -63,10 +62,11 @@ class Replaying {
             if (!_windows.system)
                 return Complain(ExitUnusable, _windows.reason.c_str());
         }
-        Scene scene(_catalogue, _options.mode);
+        Scene scene(_data, _options.mode);
         const auto watching =
             _options.transcript.empty() ? session::Journal::WithoutChanges : session::Journal::WithChanges;
         session::Player player(scene.Recorder(), watching);
+        scene.AddStepsTo(player);
         const session::Reading reading = session::ReadScript(_options.file, player.Words());
         if (!reading.script)
             return Complain(ExitUnusable, reading.problem.c_str());
@@ -96,6 +96,8 @@ class Replaying {
             _windows.system ? _windows.system->ShowDialogs(Answering::BySession) : nullptr;
         if (!scene.Start())
             return Complain(ExitFailed, "the feature dialog cannot be made: memory is short");
+        if (dialogs)
+            dialogs->ShowPart(_data.part, scene.Command());
         host::EventScope::RunIdle();
         session::Transcript transcript(_transcript);
         if (_transcript.is_open()) {
@@ -127,15 +129,15 @@ class Replaying {
     }
 
     const Options& _options;
-    const engineering::FeatureCatalogue& _catalogue;
+    const WorkData& _data;
     OpenedWindows _windows; ///< no system when the replay is headless
     std::ofstream _transcript;
 };
 
 } // namespace
 
-int Replay(const Options& options, const engineering::FeatureCatalogue& catalogue) {
-    return Replaying(options, catalogue).Run();
+int Replay(const Options& options, const WorkData& data) {
+    return Replaying(options, data).Run();
 }
 
 } // namespace app

@@ -2,8 +2,11 @@
 
 // The running feature command with everything around it, in the order in which it has to come and go.
 
+#include "Catalogue.h"
 #include "host/Application.h"
 #include "session/NotificationRecorder.h"
+#include "session/Player.h"
+#include "workbench/CommandSteps.h"
 #include "workbench/FeatureCommand.h"
 #include "workbench/PanelNotificationReader.h"
 
@@ -11,18 +14,22 @@ namespace app {
 
 class Scene {
   public:
-    /// The catalogue outlives the scene.
-    Scene(const engineering::FeatureCatalogue& catalogue, workbench::FeatureCommand::Mode mode);
+    /// The data outlive the scene.
+    Scene(const WorkData& data, workbench::FeatureCommand::Mode mode);
 
     workbench::FeatureCommand& Command() { return _command; }
     session::NotificationRecorder& Recorder() { return _recorder; }
 
+    /// Lets sessions do what the command can do.
+    void AddStepsTo(session::Player& player);
     /// Opens the dialog; false where memory is short.
     [[nodiscard]] bool Start() { return _command.Start(); }
 
   private:
     workbench::PanelNotificationReader _reader;
     workbench::FeatureCommand _command;
+    workbench::PickStep _pick{_command};
+    workbench::SetStep _set{_command};
     session::NotificationRecorder _recorder;
     host::Application _application; ///< its end destroys the dialogs, which may still reach the command
 };

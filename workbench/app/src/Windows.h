@@ -2,6 +2,9 @@
 
 // Real windows, as far as this build and this machine have them.
 
+#include "engineering/Part.h"
+#include "workbench/FeatureCommand.h"
+
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -17,6 +20,9 @@ class DialogWindows {
     DialogWindows& operator=(const DialogWindows&) = delete;
     virtual ~DialogWindows() = default;
 
+    /// Shows the part, in which a person picks elements for the command. Both outlive the windows' use of
+    /// them.
+    virtual void ShowPart(const engineering::Part& part, workbench::FeatureCommand& command) = 0;
     /// Shows what has changed, before the next step of a session.
     virtual void Settle() = 0;
     /// Writes folder/name-DIALOG.png for each dialog that is shown. Gives the path that cannot be written, or

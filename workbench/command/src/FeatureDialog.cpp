@@ -1,8 +1,9 @@
 #include "FeatureDialog.h"
 
-#include "CATDlgCombo.h"
-#include "CATDlgEditor.h"
-#include "CATDlgLabel.h"
+#include "CATDlgFrame.h"
+#include "OrvKvGroupAndGeometrySub.h"
+#include "OrvKvParameterListSub.h"
+#include "OrvKvParameterSetListSub.h"
 #include "OrvKvTypeAndParameterSetSub.h"
 
 #include <initializer_list>
@@ -11,8 +12,7 @@ namespace workbench {
 
 namespace {
 
-constexpr int parametersHeight = 14; // lines
-constexpr int parametersWidth = 60;  // characters
+constexpr unsigned char withDescriptions = 0;
 
 unsigned char SelectorMode(FeatureCommand::Mode mode) {
     return mode == FeatureCommand::Mode::Sets ? 1 : 0;
@@ -24,41 +24,56 @@ FeatureDialog::FeatureDialog(CATDialog* parent, FeatureCommand::Mode mode)
     : CATDlgDialog(parent, "FeatureDialog", CATDlgWndOK | CATDlgWndCANCEL), _mode(mode) {}
 
 bool FeatureDialog::Build() {
-    auto* const groupLabel = new CATDlgLabel(this, "GroupLab");
-    _groups = new CATDlgCombo(this, "GroupCmb", CATDlgCmbDropDown);
-    auto* const selectorLabel = new CATDlgLabel(this, "SelectorLab");
-    _selector = new OrvKvTypeAndParameterSetSub(this, SelectorMode(_mode));
-    auto* const parametersLabel = new CATDlgLabel(this, "ParametersLab");
-    _parameters = new CATDlgEditor(this, "ParametersEdt", CATDlgEdtMultiline | CATDlgEdtReadOnly);
-    for (const CATDialog* widget : std::initializer_list<const CATDialog*>{
-             groupLabel, _groups, selectorLabel, _selector, parametersLabel, _parameters})
-        if (widget == nullptr)
-            return false;
-    _selector->Build();
-    if (_mode == FeatureCommand::Mode::Sets)
-        _selector->ShowParameterSetSelector();
-    _parameters->SetVisibleTextHeight(parametersHeight);
-    _parameters->SetVisibleTextWidth(parametersWidth);
-    Arrange(groupLabel, selectorLabel, parametersLabel);
+    _featureFrame = new CATDlgFrame(this, "FeatureFrm");
+    if (_featureFrame == nullptr || !BuildFeatureFrame() || !BuildLowerPanel())
+        return false;
+    CATDialog* const lower = _parameterList != nullptr ? static_cast<CATDialog*>(_parameterList)
+                                                       : static_cast<CATDialog*>(_setList);
+    Arrange(lower);
     return true;
 }
 
-// One column; the parameters take what is left of the height.
-void FeatureDialog::Arrange(CATDialog* groupLabel, CATDialog* selectorLabel, CATDialog* parametersLabel) {
-    int row = 0;
-    for (CATDialog* widget : std::initializer_list<CATDialog*>{groupLabel, _groups, selectorLabel, _selector,
-                                                               parametersLabel, _parameters}) {
-        SetHorizontalAttachment(row++, CATDlgTopOrLeft, widget, nullptr);
-        SetVerticalAttachment(0, CATDlgTopOrLeft, widget, nullptr);
-        SetVerticalAttachment(1, CATDlgRightOrBottomRelative, widget, nullptr);
-    }
-    SetHorizontalAttachment(row, CATDlgRightOrBottomRelative, _parameters, nullptr);
+bool FeatureDialog::BuildFeatureFrame() {
+    _groupAndGeometry = new OrvKvGroupAndGeometrySub(_featureFrame);
+    _selector = new OrvKvTypeAndParameterSetSub(_featureFrame, SelectorMode(_mode));
+    if (_groupAndGeometry == nullptr || _selector == nullptr)
+        return false;
+    _groupAndGeometry->Build();
+    _selector->Build();
+    return true;
 }
 
-void FeatureDialog::Acknowledge(const CATUnicodeString& text) {
-    if (_parameters->GetText() == text)
-        return;
-    _parameters->SetText(text);
+bool FeatureDialog::BuildLowerPanel() {
+    if (_mode == FeatureCommand::Mode::Sets) {
+        _setList = new OrvKvParameterSetListSub(this);
+        if (_setList == nullptr)
+            return false;
+        _setList->Build();
+        return true;
+    }
+    _parameterList = new OrvKvParameterListSub(this, withDescriptions);
+    if (_parameterList == nullptr)
+        return false;
+    _parameterList->Build();
+    return true;
+}
+
+// The lower panel takes what is left of the height.
+void FeatureDialog::Arrange(CATDialog* lowerPanel) {
+    for (CATDialog* each : std::initializer_list<CATDialog*>{_featureFrame, lowerPanel}) {
+        SetVerticalAttachment(0, CATDlgTopOrLeft, each, nullptr);
+        SetVerticalAttachment(1, CATDlgRightOrBottomRelative, each, nullptr);
+    }
+    SetHorizontalAttachment(0, CATDlgTopOrLeft, _featureFrame, nullptr);
+    SetHorizontalAttachment(1, CATDlgTopOrLeft, lowerPanel, nullptr);
+    SetHorizontalAttachment(2, CATDlgRightOrBottomRelative, lowerPanel, nullptr);
+    for (CATDialog* each : std::initializer_list<CATDialog*>{_groupAndGeometry, _selector}) {
+        _featureFrame->SetHorizontalAttachment(0, CATDlgTopOrLeft, each, nullptr);
+        _featureFrame->SetHorizontalAttachment(1, CATDlgRightOrBottomRelative, each, nullptr);
+    }
+    _featureFrame->SetVerticalAttachment(0, CATDlgTopOrLeft, _groupAndGeometry, nullptr);
+    _featureFrame->SetVerticalAttachment(1, CATDlgTopOrLeft, _selector, nullptr);
+    _featureFrame->SetVerticalAttachment(2, CATDlgRightOrBottomRelative, _selector, nullptr);
 }
 
 char* FeatureDialog::GetResourceFilename(int level) const {

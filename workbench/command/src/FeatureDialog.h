@@ -1,13 +1,16 @@
 #pragma once
 
-// The dialog of the feature command: a group, the library's selector of types and parameter sets, and what
-// the command has understood. Texts come from the resource file FeatureDialog.
+// The dialog of the feature command: above, side by side, the group with the input geometries and the
+// selector of types and parameter sets; below, the parameters of the feature or the parameter sets of the
+// type. Texts come from the resource file FeatureDialog.
 
 #include "CATDlgDialog.h"
 #include "workbench/FeatureCommand.h"
 
-class CATDlgCombo;
-class CATDlgEditor;
+class CATDlgFrame;
+class OrvKvGroupAndGeometrySub;
+class OrvKvParameterListSub;
+class OrvKvParameterSetListSub;
 class OrvKvTypeAndParameterSetSub;
 
 namespace workbench {
@@ -22,21 +25,26 @@ class FeatureDialog : public CATDlgDialog {
     /// Makes the widgets; once. False where memory is short, and the dialog is then of no use.
     [[nodiscard]] bool Build();
 
-    CATDlgCombo* GroupCombo() const { return _groups; }
+    OrvKvGroupAndGeometrySub* GroupAndGeometry() const { return _groupAndGeometry; }
     OrvKvTypeAndParameterSetSub* Selector() const { return _selector; }
-    /// Shows what the command has understood.
-    void Acknowledge(const CATUnicodeString& text);
+    /// One of the two: the list in mode Parameters, the tables in mode Sets.
+    OrvKvParameterListSub* ParameterList() const { return _parameterList; }
+    OrvKvParameterSetListSub* SetList() const { return _setList; }
 
     // CATDialog
     char* GetResourceFilename(int level) const override;
 
   private:
-    void Arrange(CATDialog* groupLabel, CATDialog* selectorLabel, CATDialog* parametersLabel);
+    bool BuildFeatureFrame();
+    bool BuildLowerPanel();
+    void Arrange(CATDialog* lowerPanel);
 
     FeatureCommand::Mode _mode;
-    CATDlgCombo* _groups = nullptr; ///< child of the dialog, like the next two
+    CATDlgFrame* _featureFrame = nullptr; ///< child of the dialog, like all that follow
+    OrvKvGroupAndGeometrySub* _groupAndGeometry = nullptr;
     OrvKvTypeAndParameterSetSub* _selector = nullptr;
-    CATDlgEditor* _parameters = nullptr;
+    OrvKvParameterListSub* _parameterList = nullptr;
+    OrvKvParameterSetListSub* _setList = nullptr;
 };
 
 } // namespace workbench

@@ -4,14 +4,19 @@
 // the panels tell and answers through their setters.
 //
 //   host::Application application;
-//   FeatureCommand command(*catalogue, FeatureCommand::Mode::Parameters);
+//   FeatureCommand command(*catalogue, *part, FeatureCommand::Mode::Parameters);
 //   host::Application::SetActiveCommand(&command);
 //   if (!command.Start())
 //       ... the dialog could not be made ...
 
 #include "CATCommand.h"
+#include "CATUnicodeString.h"
+#include "engineering/Part.h"
+#include "host/Outcome.h"
 
 #include <functional>
+#include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -24,22 +29,21 @@ class FeatureType;
 
 namespace workbench {
 
+class EditedFeature;
 class FeatureDialog;
+class InputSelection;
 
 class FeatureCommand : public CATCommand {
     CATDeclareClass;
 
   public:
-    /// What the dialog is for: the parameters of one feature, or the parameter sets of a type. The selector
-    /// of the library hides its list of sets in mode Sets, where a list of its own stands for it; as long as
-    /// that list is folded away, and the dialog of this command has only the folded form, the selector shows
-    /// it.
+    /// What the dialog is for: the parameters of one feature, or the parameter sets of a type.
     enum class Mode { Parameters, Sets };
 
     enum class State { NotStarted, Running, Accepted, Cancelled };
 
-    /// The catalogue is not owned and outlives the command.
-    FeatureCommand(const engineering::FeatureCatalogue& catalogue, Mode mode);
+    /// Catalogue and part are not owned and outlive the command.
+    FeatureCommand(const engineering::FeatureCatalogue& catalogue, const engineering::Part& part, Mode mode);
     FeatureCommand(const FeatureCommand&) = delete;
     FeatureCommand& operator=(const FeatureCommand&) = delete;
     ~FeatureCommand() override;
@@ -56,6 +60,22 @@ class FeatureCommand : public CATCommand {
     const std::string& TypeKey() const { return _typeKey; }
     const std::string& SetName() const { return _setName; }
 
+    /// What a person does in the 3D view: picks an element of the part for the input that waits. Refused, in
+    /// the user's language, when no input waits or the element does not fit.
+    host::Outcome Pick(const std::string& element);
+    /// What a person does in the list of the part's parameters: types a value for a parameter of the feature,
+    /// as host::ParameterEntry tells. Refused when the feature has no such parameter or does not take the
+    /// text.
+    host::Outcome SetValue(const std::string& parameter, const std::string& text);
+
+    /// Number of the input that waits for an element, 0 for none; the kinds that it takes; what is picked so
+    /// far.
+    int AwaitedInput() const;
+    std::set<engineering::ElementKind> AwaitedKinds() const;
+    std::vector<std::string> PickedElements() const;
+    /// Called when one of these may have changed.
+    void WhenInputsChange(std::function<void()> changed) { _inputsChanged = std::move(changed); }
+
     // CATCommand
     CATNotifPropagationMode AnalyseNotification(CATCommand* from, CATNotification* notification) override;
 
@@ -64,18 +84,29 @@ class FeatureCommand : public CATCommand {
         CATCommand* publisher;         ///< a widget of the dialog
         CATNotification* notification; ///< that widget's own
     };
+    using Answer = void (FeatureCommand::*)(CATNotification& notification);
+
+    static Answer AnswerTo(const CATNotification& notification);
 
     bool ListenTo(CATCommand* publisher, CATNotification* notification, CATCommandMethod answer);
     bool ListenToDialog();
-    void ShowGroups();
 
-    void OnGroupChosen(CATCommand* from, CATNotification* notification, CATCommandClientData data);
     void OnAccept(CATCommand* from, CATNotification* notification, CATCommandClientData data);
     void OnCancel(CATCommand* from, CATNotification* notification, CATCommandClientData data);
+
+    void OnGroupChanged(CATNotification& notification);
     void OnTypeSelected(CATNotification& notification);
     void OnParameterSetSelected(CATNotification& notification);
+    void OnParameterModified(CATNotification& notification);
+    void OnInputWanted(CATNotification& notification);
+    void OnInverted(CATNotification& notification);
 
-    void ShowSetsOf(const engineering::FeatureType* type);
+    void ShowType(const engineering::FeatureType* type);
+    void ShowSets(const engineering::FeatureType* type);
+    void ShowParameters();
+    void ShowFits();
+    void ShowInputs();
+    CATUnicodeString TextOfInput(int input) const;
     void End(State state);
 
     const engineering::FeatureCatalogue& _catalogue;
@@ -83,7 +114,11 @@ class FeatureCommand : public CATCommand {
     State _state = State::NotStarted;
     FeatureDialog* _dialog = nullptr; ///< of the dialog tree; null before the start and after the end
     std::vector<Subscription> _subscriptions;
-    std::function<void()> _ended; ///< may be empty
+    std::unique_ptr<InputSelection> _inputs;
+    std::unique_ptr<EditedFeature> _feature; ///< null when no type is chosen
+    bool _isTakingSet = false;               ///< the feature's parameters are changing one after the other
+    std::function<void()> _ended;            ///< may be empty, like the next one
+    std::function<void()> _inputsChanged;
     std::string _typeKey;
     std::string _setName;
 };

@@ -2,9 +2,9 @@
 
 // A session as it was read: JSON Lines, where blank lines and lines that begin with '#' say nothing.
 //
-//   Reading reading = ReadScript("tours/selector.jsonl", vocabulary);
+//   Reading reading = ReadScript("tours/feature.jsonl", vocabulary);
 //   if (!reading.script)
-//       std::cerr << reading.problem << '\n'; // "tours/selector.jsonl:4: the step 'press' needs the key
+//       std::cerr << reading.problem << '\n'; // "tours/feature.jsonl:4: the step 'press' needs the key
 //       'at'"
 
 #include "session/Json.h"

@@ -1,0 +1,75 @@
+#pragma once
+
+// The parameters of the feature that is being edited, and which of them differ from what the feature starts
+// with.
+//
+//   EditedFeature feature(type);
+//   feature.Take(type.Sets().front());      // what the feature starts with
+//   feature.Take(type.Sets().back());       // changes the parameters; their subscribers hear it
+//   feature.Modifications()->IsTemporarilyModified("DH") == 1;
+
+#include "CATEventSubscriber.h"
+#include "OrvIKvFeatureParameters.h"
+#include "ParameterLists.h"
+#include "ParameterMaking.h"
+#include "engineering/FeatureType.h"
+
+#include <string>
+#include <vector>
+
+namespace workbench {
+
+class EditedFeature : public CATEventSubscriber {
+    CATDeclareClass;
+
+  public:
+    /// The type is not owned and outlives the feature. The parameters have the values of no set.
+    explicit EditedFeature(const engineering::FeatureType& type);
+    EditedFeature(const EditedFeature&) = delete;
+    EditedFeature& operator=(const EditedFeature&) = delete;
+    ~EditedFeature() override;
+
+    const engineering::FeatureType& Type() const { return _type; }
+    /// Which parameters are modified, for the panels.
+    const OrvIKvFeatureParameters_var& Modifications() const { return _modifications; }
+    /// Everything that the parameter list takes. A parameter that is not tabulated is not shown.
+    ParameterLists Lists() const;
+    /// The parameters with what they hold now, in the order of the type.
+    std::vector<engineering::ParameterValue> Values() const;
+
+    /// Takes the values and tolerances of a set of the type over. The first set is the state that the feature
+    /// starts with; later ones change parameters, which raise their events.
+    void Take(const engineering::ParameterSet& set);
+    /// Whether the set tabulates the very parameters that are tabulated now, so that a list keeps its rows.
+    bool KeepsRowsWith(const engineering::ParameterSet& set) const;
+
+    /// The parameter of that name; a null handle for an unknown one and for one that is not tabulated.
+    CATICkeParm_var Parameter(const std::string& name) const;
+    /// The fit or thread class of a parameter as the list shows it, in parentheses where a designer may not
+    /// change it; empty for limits, for none and for an unknown name.
+    CATUnicodeString Fit(const std::string& name) const;
+
+  private:
+    struct Slot {
+        const engineering::Parameter* definition = nullptr; ///< of the type
+        CATICkeParm_var parameter;
+        engineering::ParameterValue start; ///< what the feature starts with
+        engineering::Tolerance tolerance;  ///< what was taken last
+        bool isTabulated = false;
+    };
+
+    const Slot* Find(const std::string& name) const;
+    void Subscribe(std::size_t slot);
+    void Change(Slot& ioSlot, const engineering::ParameterValue& entry);
+    engineering::ParameterValue Now(const Slot& slot) const;
+    void OnChanged(CATCallbackEvent event, void* publisher, CATNotification* notification,
+                   CATSubscriberData slot, CATCallback id);
+    void NoteModification(const Slot& slot);
+
+    const engineering::FeatureType& _type;
+    OrvIKvFeatureParameters_var _modifications;
+    std::vector<Slot> _slots; ///< one for each parameter of the type
+    bool _hasStarted = false; ///< a set was taken
+};
+
+} // namespace workbench

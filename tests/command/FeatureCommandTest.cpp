@@ -4,11 +4,13 @@
 #include "CATDlgDialog.h"
 #include "CommandTest.h"
 #include "SampleTypes.h"
+#include "host/DialogDump.h"
 #include "host/DialogPath.h"
 #include "host/DialogUser.h"
 #include "host/EventScope.h"
 #include "host/Inspector.h"
 #include "host/Messages.h"
+#include "support/GoldenFolder.h"
 
 namespace command {
 
@@ -49,6 +51,16 @@ TEST_F(FeatureCommandTest, OpensWithTheFirstGroupTypeAndSet) {
     EXPECT_EQ(Command().CurrentState(), FeatureCommand::State::Running);
     EXPECT_EQ(Command().TypeKey(), "ClearanceHole");
     EXPECT_EQ(Command().SetName(), "ISO 273 M1.6 fine");
+}
+
+TEST_F(FeatureCommandTest, ShowsTheWholeDialogInBothModes) {
+    ASSERT_TRUE(Start(FeatureCommand::Mode::Parameters));
+    ASSERT_TRUE(ChooseType(1));
+    ASSERT_TRUE(ChooseSet(1));
+    EXPECT_TRUE(support::MatchesGolden("FeatureDialog-parameters", host::DialogDump::OfAll()));
+    ASSERT_TRUE(Start(FeatureCommand::Mode::Sets));
+    ASSERT_TRUE(ChooseType(3));
+    EXPECT_TRUE(support::MatchesGolden("FeatureDialog-sets", host::DialogDump::OfAll()));
 }
 
 TEST_F(FeatureCommandTest, AnswersATypeWithItsSets) {

@@ -1,6 +1,7 @@
 // The feature command in its real window: a person chooses with mouse and keyboard, and the command answers.
 
 #include "CATDlgCombo.h"
+#include "PartPicking.h"
 #include "command/CommandTest.h"
 #include "desktop/Desktop.h"
 #include "host/DialogPath.h"
@@ -13,6 +14,7 @@
 #include <QtWidgets/QListView>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
+#include <QtWidgets/QTreeWidget>
 
 #include <algorithm>
 #include <memory>
@@ -133,6 +135,56 @@ TEST_F(FeatureDialogTest, AValueThatTheCommandChangesIsShownAndMarked) {
     host::EventScope::RunIdle();
     EXPECT_EQ(Cell(Table("ParameterMul"), 2, 0), "*");
     EXPECT_EQ(Cell(Table("ParameterMul"), 2, 2), "2.5mm");
+}
+
+class PickingTest : public FeatureDialogTest {
+  protected:
+    void SetUp() override {
+        FeatureDialogTest::SetUp();
+        _picking = std::make_unique<app::PartPicking>(SamplePart(), Command());
+    }
+    void TearDown() override {
+        _picking.reset();
+        FeatureDialogTest::TearDown();
+    }
+
+    void Click(const char* iElement) {
+        QTreeWidget& tree = *_picking->Window().findChild<QTreeWidget*>();
+        const QList<QTreeWidgetItem*> found =
+            tree.findItems(QString::fromUtf8(iElement), Qt::MatchExactly | Qt::MatchRecursive);
+        ASSERT_EQ(found.size(), 1);
+        tree.scrollToItem(found.front());
+        QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier,
+                          tree.visualItemRect(found.front()).center());
+    }
+    std::string Input(int iNumber) {
+        return Shown<QLineEdit>("Input" + std::to_string(iNumber) + "Edt").text().toStdString();
+    }
+
+    std::unique_ptr<app::PartPicking> _picking;
+};
+
+TEST_F(PickingTest, ClicksInThePartFillTheInputsOneAfterTheOther) {
+    Click("Top face hole 3");
+    EXPECT_EQ(Input(1), "Top face hole 3");
+    Click("Hole 3 axis");
+    EXPECT_EQ(Input(2), "Hole 3 axis");
+    EXPECT_EQ(Command().AwaitedInput(), 0);
+}
+
+TEST_F(PickingTest, AClickOnWhatDoesNotFitChangesNothing) {
+    Click("Top face");
+    EXPECT_EQ(Input(1), "No selection");
+    EXPECT_EQ(Command().AwaitedInput(), 1);
+    Click("Top face hole 1");
+    EXPECT_EQ(Input(1), "Top face hole 1");
+}
+
+TEST_F(PickingTest, TheButtonOfAnInputMakesItsKindOfElementPickable) {
+    Press("Input2Pbt");
+    Click("Top face");
+    EXPECT_EQ(Input(2), "Top face");
+    EXPECT_EQ(Command().PickedElements(), Texts({"Top face"}));
 }
 
 class SetDialogTest : public FeatureDialogTest {

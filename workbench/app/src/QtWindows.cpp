@@ -3,7 +3,7 @@
 #include "CATDlgWindow.h"
 #include "Environment.h"
 #include "ExitStatus.h"
-#include "PartTree.h"
+#include "PartPicking.h"
 #include "desktop/Desktop.h"
 #include "host/EventScope.h"
 #include "host/Inspector.h"
@@ -12,6 +12,7 @@
 #include <QtWidgets/QApplication>
 
 #include <cstdlib>
+#include <optional>
 
 namespace app {
 
@@ -60,18 +61,9 @@ class QtDialogWindows : public DialogWindows {
             host::Messages::SetFrontEnd(nullptr);
     }
 
-    ~QtDialogWindows() override {
-        if (_command != nullptr)
-            _command->WhenInputsChange(nullptr);
-    }
-
     // DialogWindows
     void ShowPart(const engineering::Part& part, workbench::FeatureCommand& command) override {
-        _command = &command;
-        _partTree = std::make_unique<PartTree>(part, [this](const std::string& name) { return Pick(name); });
-        command.WhenInputsChange([this] { ShowInputs(); });
-        ShowInputs();
-        _partTree->show();
+        _picking.emplace(part, command);
     }
     void Settle() override {
         host::EventScope::RunIdle();
@@ -91,26 +83,14 @@ class QtDialogWindows : public DialogWindows {
     }
 
   private:
-    // A pick is one event of the main loop, like anything else that a person does.
-    host::Outcome Pick(const std::string& name) {
-        const host::EventScope event;
-        return _command->Pick(name);
-    }
-
-    void ShowInputs() {
-        const std::set<engineering::ElementKind> kinds = _command->AwaitedKinds();
-        _partTree->ShowWanted({kinds.begin(), kinds.end()});
-        _partTree->MarkPicked(_command->PickedElements());
-    }
-
     std::filesystem::path SavePartTree(const std::filesystem::path& file) {
-        const bool isSaved = !_partTree || _partTree->grab().save(QString::fromStdString(file.string()));
+        const bool isSaved =
+            !_picking || _picking->Window().grab().save(QString::fromStdString(file.string()));
         return isSaved ? std::filesystem::path() : file;
     }
 
     desktop::Desktop _desktop;
-    workbench::FeatureCommand* _command = nullptr; ///< not owned
-    std::unique_ptr<PartTree> _partTree;           ///< none before ShowPart
+    std::optional<PartPicking> _picking; ///< none before ShowPart
 };
 
 class QtWindowSystem : public WindowSystem {

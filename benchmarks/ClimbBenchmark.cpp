@@ -12,6 +12,7 @@
 #include "CATDlgFrame.h"
 #include "CATDlgPushButton.h"
 #include "CATMacForIUnknown.h"
+#include "PlainNodes.h"
 #include "host/Application.h"
 #include "host/DialogUser.h"
 
@@ -104,24 +105,8 @@ void ClickHost(benchmark::State& ioState) {
         ioState.SkipWithError("not every press reached the command");
 }
 
-struct PlainEvent {
-    virtual ~PlainEvent() = default;
-    virtual const char* Name() const { return "PressEvent"; }
-};
-
 struct PlainPanelEvent : PlainEvent {
     const char* Name() const override { return "PanelEvent"; }
-};
-
-struct PlainNode {
-    explicit PlainNode(PlainNode* iParent) : parent(iParent) {}
-    virtual ~PlainNode() = default;
-    // True when the event has been handled.
-    virtual bool Handle(const PlainEvent&) { return false; }
-
-    PlainNode* parent;
-    bool isShown = true;
-    bool isEnabled = true;
 };
 
 bool CanPress(const PlainNode* iNode) {
@@ -129,12 +114,6 @@ bool CanPress(const PlainNode* iNode) {
         if (!node->isShown || !node->isEnabled)
             return false;
     return true;
-}
-
-void Climb(PlainNode* iFrom, const PlainEvent& iEvent) {
-    for (PlainNode* node = iFrom; node != nullptr; node = node->parent)
-        if (node->Handle(iEvent))
-            return;
 }
 
 void SendPanelEvent(PlainNode* iTo) {
@@ -163,17 +142,6 @@ struct PlainPanel : PlainNode {
         return true;
     }
 };
-
-// A chain of nodes below ioTop; the last one is the lowest.
-std::vector<std::unique_ptr<PlainNode>> MakeChain(PlainNode& ioTop, int iCount) {
-    std::vector<std::unique_ptr<PlainNode>> chain;
-    PlainNode* lowest = &ioTop;
-    for (int level = 0; level < iCount; ++level) {
-        chain.push_back(std::make_unique<PlainNode>(lowest));
-        lowest = chain.back().get();
-    }
-    return chain;
-}
 
 void ClimbPlain(benchmark::State& ioState) {
     PlainTop top;

@@ -74,6 +74,69 @@ void AddDialog(std::vector<Comparison>& ioAll) {
         {"Dialog", placed + "Qt / ours", Measure::PeerOverOurs, "Dialog/OursPlaced", "Dialog/Qt", 25.0});
 }
 
+// The peers of a panel, beside its floor.
+void AddPanel(std::vector<Comparison>& ioAll, const std::string& iSubject, const std::string& iLine,
+              const std::string& iBenchmark, int iSize, double iFloorLimit, double iTreeLimit) {
+    const std::string line = std::to_string(iSize) + iLine;
+    const std::string size = "/" + std::to_string(iSize);
+    const std::string ours = iBenchmark + "/Ours" + size;
+    ioAll.push_back({iSubject, line + "ours / floor", Measure::OursOverFloor, ours,
+                     iBenchmark + "/Floor" + size, iFloorLimit});
+    ioAll.push_back({iSubject, line + "QTreeWidget / ours", Measure::PeerOverOurs, ours,
+                     iBenchmark + "/QTreeWidget" + size, iTreeLimit});
+    ioAll.push_back({iSubject, line + "own Qt model / ours", Measure::PeerOverOurs, ours,
+                     iBenchmark + "/QtOwnModel" + size, 0.0});
+}
+
+// How a cost grows from iFew to iMany rows, with that of the floor beside it.
+void AddFlat(std::vector<Comparison>& ioAll, const std::string& iSubject, const std::string& iWhat,
+             Measure iMeasure, const std::string& iBenchmark, int iMany, int iFew, double iLimit) {
+    const std::string many = std::to_string(iMany);
+    const std::string few = std::to_string(iFew);
+    const std::string line = iWhat + many + " / " + iWhat + few;
+    const std::string ours = iBenchmark + "/Ours/";
+    const std::string floor = iBenchmark + "/Floor/";
+    ioAll.push_back({iSubject, "flat: " + line, iMeasure, ours + many, ours + few, iLimit});
+    ioAll.push_back({iSubject, "the floor's: " + line, iMeasure, floor + many, floor + few, 0.0});
+}
+
+void AddParameterList(std::vector<Comparison>& ioAll) {
+    const std::string refill = "Parameter list, filled anew";
+    for (const int rows : parameterListSizes) {
+        const std::string size = std::to_string(rows);
+        AddPanel(ioAll, refill, " parameters: ", "ParameterRefill", rows, 2.0, rows == 10000 ? 5.0 : 0.0);
+        ioAll.push_back({refill, size + " parameters: QTreeWidget, cell by cell / ours",
+                         Measure::PeerOverOurs, "ParameterRefill/Ours/" + size,
+                         "ParameterRefill/QTreeWidgetCellwise/" + size, 0.0});
+    }
+    const std::string change = "Parameter list, one value changed";
+    for (const int rows : parameterChangeSizes)
+        AddPanel(ioAll, change, " rows: ", "ParameterChange", rows, 4.0, 0.0);
+    AddFlat(ioAll, change, "a change among ", Measure::Growth, "ParameterChange", 1000000, 1000, 3.0);
+}
+
+void AddSetTable(std::vector<Comparison>& ioAll) {
+    const std::string fill = "Set table, filled";
+    for (const int sets : setTableSizes)
+        AddPanel(ioAll, fill, " sets: ", "SetTable", sets, 2.0, 0.0);
+    AddFlat(ioAll, fill, "a set of ", Measure::CostPerRow, "SetTable", 10000, 100, 1.5);
+    const std::string current = "Set table, another current set";
+    for (const int sets : setCurrentSizes)
+        AddPanel(ioAll, current, " sets: ", "SetCurrent", sets, 0.0, 0.0);
+    AddFlat(ioAll, current, "one among ", Measure::Growth, "SetCurrent", 10000, 100, 1.5);
+}
+
+void AddShownList(std::vector<Comparison>& ioAll) {
+    for (const int rows : shownListSizes)
+        for (const char* kind : {"Ours", "QTableView", "QTreeView", "QTreeWidget"}) {
+            const std::string size = std::to_string(rows);
+            const bool isOurs = std::string(kind) == "Ours";
+            ioAll.push_back({"List on the screen, one cell changed",
+                             size + " rows: microseconds, " + (isOurs ? "ours" : kind), Measure::Microseconds,
+                             std::string("ShownChange/") + kind + "/" + size, "", isOurs ? 5.0 : 0.0});
+        }
+}
+
 } // namespace
 
 std::vector<Comparison> AllComparisons() {
@@ -82,5 +145,8 @@ std::vector<Comparison> AllComparisons() {
     AddCombo(all);
     AddList(all);
     AddDialog(all);
+    AddParameterList(all);
+    AddSetTable(all);
+    AddShownList(all);
     return all;
 }

@@ -9,6 +9,8 @@ enum class Measure {
     OursOverFloor, // time of the host divided by that of the floor
     PeerOverOurs,  // time of the Qt peer divided by that of the host
     CostPerRow,    // time for one row of the first benchmark divided by that of the second
+    Growth,        // time of the first benchmark divided by that of the second, which has fewer rows
+    Microseconds,  // time of the first benchmark
     Counter        // a counter of the first benchmark, in bytes
 };
 
@@ -19,7 +21,7 @@ struct Comparison {
     std::string line;
     Measure measure = Measure::OursOverFloor;
     std::string ours;
-    std::string other;  // floor, peer or second size; the name of the counter for Measure::Counter
+    std::string other;  // floor, peer or second size; the name of the counter; empty for a time
     double limit = 0.0; // the target: at least this for PeerOverOurs, at most this otherwise; 0 for none
 };
 

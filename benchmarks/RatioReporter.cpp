@@ -111,6 +111,10 @@ bool RatioReporter::Evaluate(const Comparison& iComparison, double& oValue) cons
         oValue = counter->second;
         return true;
     }
+    if (iComparison.measure == Measure::Microseconds) {
+        oValue = ours->second.nanoseconds / 1000.0;
+        return true;
+    }
     const auto other = _figures.find(iComparison.other);
     if (other == _figures.end())
         return false;

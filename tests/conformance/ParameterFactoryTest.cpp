@@ -47,8 +47,24 @@ ASSUMED(ParameterFactories, AParameterOfATypeStartsAtZeroFalseOrEmpty, "open: it
                      factory->CreateParameter(parameter->Type(), "Min")->Show().ConvertToChar());
 }
 
+CERTAIN(ParameterFactories, ADimensionIsMadeOfAMagnitudeANameAndAValue) {
+    const CATICkeParm_var depth = factory->CreateDimension(length->Type(), "DEPTH", 0.012);
+    EXPECT_STREQ("DEPTH", depth->Name().ConvertToChar());
+    EXPECT_TRUE(depth->Type()->Name() == length->Type()->Name());
+    EXPECT_DOUBLE_EQ(12.0, Stored(depth));
+    EXPECT_DOUBLE_EQ(180.0, Stored(factory->CreateDimension(angle->Type(), "TIP", 3.141592653589793)));
+}
+
+ASSUMED(ParameterFactories, ADimensionIsANumberThatItsMagnitudeCanHave, "open: a null handle otherwise") {
+    EXPECT_STREQ("4", factory->CreateDimension(integer->Type(), "N", 4.0)->Show().ConvertToChar());
+    EXPECT_TRUE(!factory->CreateDimension(integer->Type(), "N", 4.5));
+    EXPECT_TRUE(!factory->CreateDimension(length->Type(), "D", 1e306));
+    EXPECT_TRUE(!factory->CreateDimension(string->Type(), "S", 0.0));
+}
+
 ASSUMED(ParameterFactories, NoTypeGivesNoParameter, "open: a null handle") {
     EXPECT_TRUE(!factory->CreateParameter(CATICkeType_var(), "Max"));
+    EXPECT_TRUE(!factory->CreateDimension(CATICkeType_var(), "Max", 1.0));
 }
 
 ASSUMED(ParameterFactories, ANumberThatTheTypeCannotHaveGivesNoParameter, "open: a null handle") {

@@ -5,7 +5,9 @@
 #include "DecimalComma.h"
 #include "Samples.h"
 
+#include <cmath>
 #include <cstdio>
+#include <random>
 #include <string>
 
 namespace {
@@ -75,6 +77,24 @@ CERTAIN(UnicodeStrings, GeneralFormatDropsZerosAndRoundsToSixDigits) {
     EXPECT_STREQ("10", text.ConvertToChar());
     text.BuildFromNum(1234567.0, "%g");
     EXPECT_STREQ("1.23457e+06", text.ConvertToChar());
+}
+
+// Many of them, of every size and with few digits and many.
+CERTAIN(UnicodeStrings, GeneralFormatIsThatOfTheLanguage) {
+    std::mt19937_64 random(1);
+    CATUnicodeString text;
+    char expected[64];
+    for (int round = 0; round < 200000; ++round) {
+        const auto whole = static_cast<double>(random() % 2000000);
+        const auto power = static_cast<int>(random() % 24) - 12;
+        const double number = (round % 2 == 0 ? whole : whole / 1048576.0) * std::pow(10.0, power);
+        std::snprintf(expected, sizeof expected, "%g", number);
+        text.BuildFromNum(number, "%g");
+        ASSERT_STREQ(expected, text.ConvertToChar());
+        text.BuildFromNum(-number, "%g");
+        std::snprintf(expected, sizeof expected, "%g", -number);
+        ASSERT_STREQ(expected, text.ConvertToChar());
+    }
 }
 
 ASSUMED(UnicodeStrings, NumbersHaveAPointWhateverTheLocale,

@@ -3,8 +3,10 @@
 #include "CATMacForIUnknown.h"
 #include "host/Component.h"
 
-#include <set>
+#include <functional>
 #include <string>
+#include <string_view>
+#include <unordered_set>
 
 CATImplementInterface(OrvIKvFeatureParameters, CATBaseUnknown);
 
@@ -15,7 +17,7 @@ class FeatureParameters : public Component<OrvIKvFeatureParameters> {
 
   public:
     unsigned char IsTemporarilyModified(const CATString& iName) override {
-        return _modified.count(iName.ConvertToChar()) == 0 ? 0 : 1;
+        return _modified.contains(std::string_view(iName.ConvertToChar())) ? 1 : 0;
     }
     void SetTemporarilyModified(const CATString& iName, unsigned char iModified) override {
         if (iModified == 0)
@@ -26,7 +28,12 @@ class FeatureParameters : public Component<OrvIKvFeatureParameters> {
     void ForgetModifications() override { _modified.clear(); }
 
   private:
-    std::set<std::string> _modified; // names
+    struct NameHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view iName) const { return std::hash<std::string_view>()(iName); }
+    };
+
+    std::unordered_set<std::string, NameHash, std::equal_to<>> _modified; // names
 };
 
 CATImplementClass(FeatureParameters, Implementation, CATBaseUnknown, CATNull);

@@ -84,7 +84,8 @@ CATUnicodeString Magnitude::Show(double iStored) const {
         text.BuildFromNum(static_cast<int>(iStored));
     else
         text.BuildFromNum(iStored);
-    return text.Append(_unit);
+    text.Append(_unit);
+    return text;
 }
 
 namespace {

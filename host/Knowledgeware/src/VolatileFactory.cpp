@@ -12,6 +12,10 @@ CATICkeParm_var NewFromMks(Magnitude& iMagnitude, const CATUnicodeString& iName,
     return Parameter::New(iMagnitude, iName, iMagnitude.FromMks(iMks));
 }
 
+Magnitude* MagnitudeOf(const CATICkeType_var& iType) {
+    return !iType ? nullptr : Magnitude::Named(iType->Name());
+}
+
 } // namespace
 
 CATICkeParm_var VolatileFactory::CreateLength(const CATUnicodeString& iName, double iMetres) {
@@ -38,9 +42,15 @@ CATICkeParm_var VolatileFactory::CreateString(const CATUnicodeString& iName, con
     return Parameter::NewText(iName, iText);
 }
 
+CATICkeParm_var VolatileFactory::CreateDimension(const CATICkeType_var& iMagnitude,
+                                                 const CATUnicodeString& iName, double iValue) {
+    Magnitude* const magnitude = MagnitudeOf(iMagnitude);
+    return magnitude == nullptr ? CATICkeParm_var() : NewFromMks(*magnitude, iName, iValue);
+}
+
 CATICkeParm_var VolatileFactory::CreateParameter(const CATICkeType_var& iType,
                                                  const CATUnicodeString& iName) {
-    Magnitude* const magnitude = !iType ? nullptr : Magnitude::Named(iType->Name());
+    Magnitude* const magnitude = MagnitudeOf(iType);
     return magnitude == nullptr ? CATICkeParm_var() : Parameter::New(*magnitude, iName);
 }
 

@@ -17,6 +17,8 @@ class VolatileFactory : public Component<CATICkeParmFactory> {
     CATICkeParm_var CreateInteger(const CATUnicodeString& iName, int iValue) override;
     CATICkeParm_var CreateBoolean(const CATUnicodeString& iName, int iValue) override;
     CATICkeParm_var CreateString(const CATUnicodeString& iName, const CATUnicodeString& iText) override;
+    CATICkeParm_var CreateDimension(const CATICkeType_var& iMagnitude, const CATUnicodeString& iName,
+                                    double iValue) override;
     CATICkeParm_var CreateParameter(const CATICkeType_var& iType, const CATUnicodeString& iName) override;
 };
 

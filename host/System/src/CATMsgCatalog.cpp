@@ -10,12 +10,14 @@ CATUnicodeString CATMsgCatalog::BuildMessage(const CATString& iCatalog, const CA
 CATUnicodeString CATMsgCatalog::BuildMessage(const CATString& iCatalog, const CATString& iKey,
                                              const CATUnicodeString* iParameters, int iCount,
                                              const CATUnicodeString& iDefault) {
-    const std::optional<std::string> text =
-        host::MessageCatalogs::Text(iCatalog.ConvertToChar(), iKey.ConvertToChar());
-    if (!text.has_value())
+    const std::string* const text =
+        host::MessageCatalogs::FindText(iCatalog.ConvertToChar(), iKey.ConvertToChar());
+    if (text == nullptr)
         return iDefault;
+    if (iParameters == nullptr || iCount < 1)
+        return CATUnicodeString(text->c_str());
     std::vector<std::string> parameters;
-    for (int number = 0; iParameters != nullptr && number < iCount; ++number)
+    for (int number = 0; number < iCount; ++number)
         parameters.emplace_back(iParameters[number].ConvertToChar());
     return CATUnicodeString(host::MessageCatalogs::Fill(*text, parameters).c_str());
 }

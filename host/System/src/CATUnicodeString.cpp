@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <string_view>
 
 namespace {
 
@@ -35,11 +36,15 @@ void AppendCodePoint(std::string& ioText, unsigned long iCode) {
 // What printf makes of the number, with the point of the "C" locale.
 template<class Number>
 std::string Print(Number iNumber, const char* iFormat) {
-    const int length = std::snprintf(nullptr, 0, iFormat, iNumber);
+    char small[64];
+    const int length = std::snprintf(small, sizeof small, iFormat, iNumber);
     if (length <= 0)
         return std::string();
-    std::string text(static_cast<std::size_t>(length), '\0');
-    std::snprintf(text.data(), text.size() + 1, iFormat, iNumber);
+    std::string text(small, std::min(static_cast<std::size_t>(length), sizeof small - 1));
+    if (static_cast<std::size_t>(length) >= sizeof small) {
+        text.resize(static_cast<std::size_t>(length));
+        std::snprintf(text.data(), text.size() + 1, iFormat, iNumber);
+    }
     const char* point = std::localeconv()->decimal_point;
     if (std::strcmp(point, ".") != 0) {
         const std::size_t at = text.find(point);
@@ -47,6 +52,26 @@ std::string Print(Number iNumber, const char* iFormat) {
             text.replace(at, std::strlen(point), 1, '.');
     }
     return text;
+}
+
+// Digits of a printed number from the first that is not 0 on, without those of an exponent.
+int DigitsThatCount(std::string_view iText) {
+    const std::string_view mantissa = iText.substr(0, iText.find('e'));
+    const std::size_t first = std::min(mantissa.find_first_of("123456789"), mantissa.size());
+    return static_cast<int>(std::count_if(mantissa.begin() + static_cast<std::ptrdiff_t>(first),
+                                          mantissa.end(), [](char iCharacter) { return iCharacter != '.'; }));
+}
+
+// What "%g" gives. The shortest text that stands for the number is the same, and quicker to get, as long as
+// it needs no more than the six digits that "%g" prints.
+std::string PrintGeneral(double iNumber) {
+    constexpr int digits = 6;
+    char text[32];
+    char* const last = text + sizeof text;
+    std::to_chars_result end = std::to_chars(text, last, iNumber, std::chars_format::general);
+    if (DigitsThatCount(std::string_view(text, static_cast<std::size_t>(end.ptr - text))) > digits)
+        end = std::to_chars(text, last, iNumber, std::chars_format::general, digits);
+    return std::string(text, end.ptr);
 }
 
 } // namespace
@@ -72,7 +97,8 @@ int CATUnicodeString::BuildFromNum(int iNumber, const char* iFormat) {
 }
 
 int CATUnicodeString::BuildFromNum(double iNumber, const char* iFormat) {
-    _utf8 = Print(iNumber, iFormat);
+    const bool isGeneral = std::isfinite(iNumber) && std::strcmp(iFormat, "%g") == 0;
+    _utf8 = isGeneral ? PrintGeneral(iNumber) : Print(iNumber, iFormat);
     return GetLengthInChar();
 }
 

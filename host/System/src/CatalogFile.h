@@ -3,13 +3,21 @@
 
 #include "host/MessageCatalogs.h"
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
 namespace host {
 
-typedef std::unordered_map<std::string, std::string> CatalogTexts;
+// Lets a text be looked up by any kind of string without a copy.
+struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view iText) const { return std::hash<std::string_view>()(iText); }
+};
+
+typedef std::unordered_map<std::string, std::string, TextHash, std::equal_to<>> CatalogTexts;
 
 // Reads the line form of message and resource files:
 //

@@ -69,9 +69,14 @@ void ReadFrom(const std::vector<std::string>& iFolders, const std::string& iFile
     }
 }
 
-const CatalogTexts& TextsOf(const std::string& iLanguage, const std::string& iName, const char* iExtension) {
+bool HasPlainNames(const std::string& iLanguage, const std::string& iName) {
+    return IsPlainName(iName) && (iLanguage.empty() || IsPlainName(iLanguage));
+}
+
+const CatalogTexts& ReadTexts(const std::string& iLanguage, const std::string& iName,
+                              const char* iExtension) {
     static const CatalogTexts none;
-    if (!IsPlainName(iName) || (!iLanguage.empty() && !IsPlainName(iLanguage)))
+    if (!HasPlainNames(iLanguage, iName))
         return none;
     const std::string file = (iLanguage.empty() ? std::string() : iLanguage + "/") + iName + iExtension;
     const auto known = Current().files.find(file);
@@ -82,11 +87,36 @@ const CatalogTexts& TextsOf(const std::string& iLanguage, const std::string& iNa
     return texts;
 }
 
-std::optional<std::string> Find(const CatalogTexts& iTexts, const std::string& iKey) {
+// The file that was asked for last: a list asks the same one for each of its rows.
+struct LastFile {
+    std::string language;
+    std::string name;
+    const char* extension = nullptr; // a literal
+    const CatalogTexts* texts = nullptr;
+    unsigned generation = 0;
+};
+
+const CatalogTexts& TextsOf(const std::string& iLanguage, std::string_view iName, const char* iExtension) {
+    static auto* last = new LastFile;
+    if (last->generation == generation && last->extension == iExtension && last->name == iName &&
+        last->language == iLanguage)
+        return *last->texts;
+    const std::string name(iName);
+    const CatalogTexts& texts = ReadTexts(iLanguage, name, iExtension);
+    *last = {iLanguage, name, iExtension, &texts, generation};
+    return texts;
+}
+
+constexpr const char messages[] = ".CATNls";
+constexpr const char resources[] = ".CATRsc";
+
+const std::string* Find(const CatalogTexts& iTexts, std::string_view iKey) {
     const auto found = iTexts.find(iKey);
-    if (found == iTexts.end())
-        return std::nullopt;
-    return found->second;
+    return found == iTexts.end() ? nullptr : &found->second;
+}
+
+std::optional<std::string> CopyOf(const std::string* iText) {
+    return iText == nullptr ? std::nullopt : std::optional<std::string>(*iText);
 }
 
 } // namespace
@@ -115,26 +145,28 @@ const std::string& MessageCatalogs::Language() {
 }
 
 std::optional<std::string> MessageCatalogs::Text(const std::string& iCatalog, const std::string& iKey) {
+    return CopyOf(FindText(iCatalog, iKey));
+}
+
+const std::string* MessageCatalogs::FindText(std::string_view iCatalog, std::string_view iKey) {
     if (FaultPoints::Fails("message look-up"))
-        return std::nullopt;
+        return nullptr;
     const std::string& language = Current().language;
-    if (!language.empty()) {
-        std::optional<std::string> text = Find(TextsOf(language, iCatalog, ".CATNls"), iKey);
-        if (text.has_value())
+    if (!language.empty())
+        if (const std::string* text = Find(TextsOf(language, iCatalog, messages), iKey))
             return text;
-    }
-    return Find(TextsOf(std::string(), iCatalog, ".CATNls"), iKey);
+    return Find(TextsOf(std::string(), iCatalog, messages), iKey);
 }
 
 std::optional<std::string> MessageCatalogs::Resource(const std::string& iName, const std::string& iKey) {
     if (FaultPoints::Fails("resource look-up"))
         return std::nullopt;
-    return Find(TextsOf(std::string(), iName, ".CATRsc"), iKey);
+    return CopyOf(Find(TextsOf(std::string(), iName, resources), iKey));
 }
 
 std::vector<std::string> MessageCatalogs::Keys(const std::string& iCatalog, const std::string& iLanguage) {
     std::vector<std::string> keys;
-    for (const auto& entry : TextsOf(iLanguage, iCatalog, ".CATNls"))
+    for (const auto& entry : TextsOf(iLanguage, iCatalog, messages))
         keys.push_back(entry.first);
     std::sort(keys.begin(), keys.end());
     return keys;

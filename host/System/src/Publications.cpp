@@ -3,7 +3,32 @@
 #include "CATNotification.h"
 #include "SubscriptionIds.h"
 
+#include <new>
+
 namespace host {
+
+namespace {
+
+// Memory of a subscription that has ended.
+struct Spare {
+    Spare* next;
+};
+
+Spare* spares = nullptr;
+
+} // namespace
+
+void* Subscription::operator new(std::size_t iSize) {
+    if (spares == nullptr)
+        return ::operator new(iSize);
+    Spare* const spare = spares;
+    spares = spare->next;
+    return spare;
+}
+
+void Subscription::operator delete(void* iMemory) noexcept {
+    spares = ::new (iMemory) Spare{spares};
+}
 
 Publications& Publications::Of(CATBaseUnknown& ioPublisher) {
     if (ioPublisher._publications == nullptr) {

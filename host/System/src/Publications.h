@@ -3,12 +3,19 @@
 
 #include "CATEventSubscriber.h"
 
+#include <cstddef>
+
 namespace host {
 
 struct Publications;
 
 // One subscription: a link in the chain of its publisher and in the chain of its subscriber.
+//
+// Filling a list anew ends and begins two for each row, so their memory is kept for the next ones.
 struct Subscription {
+    static void* operator new(std::size_t iSize);
+    static void operator delete(void* iMemory) noexcept;
+
     CATEventSubscriber* subscriber = nullptr; // null once the subscription has ended
     Publications* publications = nullptr;
     const char* event = nullptr; // interned

@@ -117,6 +117,7 @@ INSTANTIATE_TEST_SUITE_P(
         Bad{"LENGTH", "-", "'-' is not a number"}, Bad{"LENGTH", "+-3", "'+-3' is not a number"},
         Bad{"LENGTH", "--3", "'--3' is not a number"}, Bad{"LENGTH", "- 3", "'- 3' is not a number"},
         Bad{"LENGTH", ".", "'.' is not a number"}, Bad{"LENGTH", ",mm", "',mm' is not a number"},
+        Bad{"LENGTH", "(10mm)", "'(10mm)' is not a number"}, Bad{"LENGTH", "%s", "'%s' is not a number"},
         Bad{"LENGTH", "\xC2\xB2", "'\xC2\xB2' is not a number"}));
 
 INSTANTIATE_TEST_SUITE_P(SeveralNumbers, BadEntryTest,
@@ -137,6 +138,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Bad{"LENGTH", "3 m m", "'m m' is not a unit of LENGTH, which has mm, cm, m, in"},
                     Bad{"LENGTH", "3 m2", "'m2' is not a unit of LENGTH, which has mm, cm, m, in"},
                     Bad{"LENGTH", "0x10", "'x10' is not a unit of LENGTH, which has mm, cm, m, in"},
+                    Bad{"LENGTH", "3/4 in", "'/4 in' is not a unit of LENGTH, which has mm, cm, m, in"},
+                    Bad{"LENGTH", "50 %", "'%' is not a unit of LENGTH, which has mm, cm, m, in"},
+                    Bad{"LENGTH", "3\u00A0mm", "'\u00A0mm' is not a unit of LENGTH, which has mm, cm, m, in"},
                     Bad{"LENGTH", "1e", "'e' is not a unit of LENGTH, which has mm, cm, m, in"},
                     Bad{"ANGLE", "3 mm", "'mm' is not a unit of ANGLE, which has deg, rad"},
                     Bad{"REAL", "3 mm", "'mm' is not a unit of REAL, which has none"},

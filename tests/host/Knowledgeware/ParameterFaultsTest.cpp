@@ -106,6 +106,7 @@ TEST_F(ParameterFaultsTest, AFailingAllocationGivesNoParameter) {
         [&] { return factory->CreateInteger("P", 1); },
         [&] { return factory->CreateBoolean("P", 1); },
         [&] { return factory->CreateString("P", "M5"); },
+        [&] { return factory->CreateDimension(depth->Type(), "P", 1.0); },
         [&] { return factory->CreateParameter(depth->Type(), "P"); },
     };
     for (const auto& make : makers) {

@@ -86,6 +86,7 @@ TEST_F(ParametersTest, AreMadeOfAForeignTypeByItsName) {
     EXPECT_STREQ(factory->CreateParameter(&angle, "A")->Show().ConvertToChar(), "0deg");
     ForeignType volume("VOLUME");
     EXPECT_TRUE(!factory->CreateParameter(&volume, "V"));
+    EXPECT_TRUE(!factory->CreateDimension(&volume, "V", 1.0));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace host {
@@ -30,6 +31,8 @@ class MessageCatalogs {
 
     // Text of iKey in iCatalog: the language first, then English.
     static std::optional<std::string> Text(const std::string& iCatalog, const std::string& iKey);
+    // The same without a copy; null when there is none. Valid until Reset or a change of path or language.
+    static const std::string* FindText(std::string_view iCatalog, std::string_view iKey);
     // Value of iKey in the resource file of iName; resource files have no languages.
     static std::optional<std::string> Resource(const std::string& iName, const std::string& iKey);
     // All keys of a catalogue in one language, in alphabetical order; empty without a file.

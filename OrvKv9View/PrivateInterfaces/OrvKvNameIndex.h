@@ -30,18 +30,19 @@ class OrvKvNameIndex {
         if (iNames > 0)
             MakeSlots(static_cast<std::size_t>(iNames));
     }
-    // Without effect when the name has a place already.
-    void Add(const char* iName, int iPlace) {
+    // Gives the name that place, or leaves it the one that it has. The place that it has then.
+    int Add(const char* iName, int iPlace) {
         MakeSlots(_names + 1);
         const std::uint32_t hash = HashOf(iName);
         Slot& slot = _slots[SlotOf(iName, hash)];
         if (slot.hash != Free)
-            return;
+            return slot.place;
         slot.hash = hash;
         slot.text = _texts.size();
         slot.place = iPlace;
         _texts.insert(_texts.end(), iName, iName + std::strlen(iName) + 1);
         ++_names;
+        return iPlace;
     }
     int Find(const char* iName) const {
         return _names == 0 ? Absent : _slots[SlotOf(iName, HashOf(iName))].place;

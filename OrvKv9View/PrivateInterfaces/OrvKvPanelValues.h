@@ -19,4 +19,7 @@ static constexpr int OrvKvAllLines = -1;
 static constexpr int OrvKvSilently = 0;
 static constexpr int OrvKvNotifying = 1;
 
+// What a parameter with maximum and minimum deviations says of its tolerance.
+static constexpr int OrvKvToleranceIsSet = 1;
+
 #endif

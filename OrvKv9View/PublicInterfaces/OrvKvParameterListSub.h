@@ -91,7 +91,8 @@ class OrvKvParameterListSub : public CATDlgFrame {
     OrvIKvFeatureParameters_var _FeatureParameters;
     unsigned char _StopNotification;
     OrvKvNameIndex* _pPositions;            // name to first position in _Names; owned
-    OrvKvNameIndex* _pRows;                 // name to first row, from 1; owned
+    CATRawCollint _FirstPositions;          // per position the first one of the same name
+    CATRawCollint _FirstRows;               // per first position the first row of the name; 0 for none
     CATListValCATBaseUnknown_var _Followed; // the publishers on which this panel has subscriptions
     int _Refills;                           // tells a refill that another one came in between
 };

@@ -9,6 +9,7 @@
 
 class CATDlgMultiList;
 class OrvKvNameIndex;
+class OrvKvSetCells;
 
 // Two tables: the parameter sets with the values and tolerances of their parameters, and below it the values
 // of the set that is edited. A chosen set is reported with OrvKvParameterSetSelectedNotification, followed by
@@ -67,10 +68,10 @@ class OrvKvParameterSetListSub : public CATDlgFrame {
     void UseCurrentTable(CATDlgMultiList* iTable);
     void LeaveSetTable();
     void LeaveCurrentTable();
-    // The texts of a set's line, its name first.
-    CATListValCATUnicodeString LineOf(const CATUnicodeString& iSetName,
-                                      const CATListValCATBaseUnknown_var& iParameters,
-                                      const CATListValCATUnicodeString& iTolerances) const;
+    // The texts that the tables show under the present flags.
+    OrvKvSetCells Cells() const;
+    void IndexNames();
+    void ShowTitles();
 
     // Children of this frame and of the frames in it; null before Build.
     CATDlgFrame* _pParameterSetFrame;

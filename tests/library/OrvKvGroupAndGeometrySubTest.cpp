@@ -1,6 +1,7 @@
 #include "OrvKvGroupAndGeometrySub.h"
 
 #include "PanelTest.h"
+#include "PrivateCallback.h"
 #include "support/GoldenFolder.h"
 #include "support/ResourceFolder.h"
 
@@ -18,6 +19,9 @@
 #include "host/MessageCatalogs.h"
 
 #include <limits>
+
+static PrivateCallback<OrvKvGroupAndGeometrySub> onSelect = nullptr;
+template struct OpenCallback<onSelect, &OrvKvGroupAndGeometrySub::OnGroupCmbSelectNotification>;
 
 namespace {
 
@@ -274,6 +278,16 @@ TEST_F(OrvKvGroupAndGeometrySubTest, ASelectNotificationWithoutASelectedLineRepo
     GroupCombo().SendNotification(&Panel(), event);
     EXPECT_EQ(LastGroup(), 0);
     EXPECT_EQ(Command().TakeClasses(), oneGroup);
+}
+
+TEST_F(OrvKvGroupAndGeometrySubTest, ASelectNotificationWithoutASenderReportsNothing) {
+    BuiltPanel();
+    SetGroups(KeysOf({"Holes"}), 1);
+    Command().Forget();
+    (Panel().*onSelect)(nullptr, nullptr, nullptr);
+    EXPECT_EQ(Command().TakeClasses(), Classes());
+    (Panel().*onSelect)(&GroupCombo(), nullptr, nullptr);
+    EXPECT_EQ(LastGroup(), 1);
 }
 
 TEST_F(OrvKvGroupAndGeometrySubTest, TheGroupGoesToTheFatherAndWhatTheGeometrySendsClimbsThroughThePanel) {

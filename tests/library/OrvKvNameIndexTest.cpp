@@ -8,9 +8,9 @@ namespace {
 
 TEST(OrvKvNameIndexTest, FindsTheFirstPlaceOfAName) {
     OrvKvNameIndex index;
-    index.Add("D", 1);
-    index.Add("T", 2);
-    index.Add("D", 3);
+    EXPECT_EQ(index.Add("D", 1), 1);
+    EXPECT_EQ(index.Add("T", 2), 2);
+    EXPECT_EQ(index.Add("D", 3), 1);
     EXPECT_EQ(index.Find("D"), 1);
     EXPECT_EQ(index.Find("T"), 2);
 }

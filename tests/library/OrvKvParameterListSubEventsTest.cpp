@@ -1,14 +1,20 @@
 // The parameter list while its parameters change and the user double-clicks its rows.
 
 #include "ParameterListTest.h"
+#include "PrivateCallback.h"
+#include "StandInParameter.h"
 
 #include "CATDlgDocument.h"
 #include "CATDlgMultiList.h"
 #include "host/CommandInspection.h"
 #include "host/DialogUser.h"
 #include "host/FaultPoints.h"
+#include "host/LiveObjects.h"
 #include "host/ParameterEntry.h"
 #include "host/Parameters.h"
+
+static PrivateCallback<OrvKvParameterListSub> onActivate = nullptr;
+template struct OpenCallback<onActivate, &OrvKvParameterListSub::OnParameterListActivateNotification>;
 
 namespace {
 
@@ -233,16 +239,6 @@ TEST_F(OrvKvParameterListSubEventsTest, ANotificationOfTheListWithoutASelectedRo
     EXPECT_EQ(TakeReported(), Reported({"double click on  at 1, value 1, tolerance 1"}));
 }
 
-// Names the private callback of the double click; an explicit instantiation may do so. The list is the only
-// publisher that the panel listens to, so no user ever comes from anywhere else.
-using PrivateCallback = void (OrvKvParameterListSub::*)(CATCommand*, CATNotification*, void*);
-PrivateCallback onActivate = nullptr;
-template<PrivateCallback Callback>
-struct Opener {
-    static inline const bool opened = (onActivate = Callback) != nullptr;
-};
-template struct Opener<&OrvKvParameterListSub::OnParameterListActivateNotification>;
-
 TEST_F(OrvKvParameterListSubEventsTest, AnEventThatDoesNotComeFromAListIsTracedAndReportsNothing) {
     const TraceLines badSource = {
         {"OrvKv9SubFrames", 2, "OrvKvParameterListSub::OnParameterListSelectNotification bad event source"}};
@@ -392,6 +388,24 @@ TEST_F(AnsweredParameterListTest, ACommandMayCorrectTheValueWhileItHearsOfItsCha
     EXPECT_EQ(Cell(1, 2), "12.5mm");
 }
 
+TEST_F(AnsweredParameterListTest, AParameterThatThePanelAloneHoldsStaysUntilItIsNotListedAnyMore) {
+    const int others = host::LiveObjects::Count("Parameter");
+    CATICkeParm* alone = nullptr;
+    {
+        const CATICkeParm_var made = Length("A", 10);
+        alone = made;
+        ParameterLists::Of({{.parameter = made, .name = "A"}}).HandTo(Panel());
+    }
+    EXPECT_EQ(alone->Valuate(0.011), S_OK);
+    DoubleClick(1);
+    EXPECT_EQ(TakeReported(), Reported({"changed A", "double click on A at 1, value 1, tolerance 1"}));
+    const AnsweringCommand command(valueChanged, [this] { _depthAlone.HandTo(Panel()); });
+    EXPECT_EQ(alone->Valuate(0.012), S_OK);
+    EXPECT_EQ(command.Heard(), 1);
+    EXPECT_EQ(host::LiveObjects::Count("Parameter"), others);
+    EXPECT_EQ(ShownRows(), Rows({"|T|20mm||Depth"}));
+}
+
 TEST_F(AnsweredParameterListTest, ACommandMayLetGoOfTheFeatureWhileItHearsOfAChange) {
     _both.HandTo(Panel());
     const AnsweringCommand command(valueChanged, [this] { Panel().SetFeatureParameters(nullptr); });
@@ -420,6 +434,24 @@ TEST_F(AnsweredParameterListTest, AChangeWhileTheListIsHiddenForFillingIsNotHear
     EXPECT_EQ(command.Heard(), 2);
     EXPECT_EQ(ShownRows(), Rows({"|D|11mm|+0.1/-0.05|Diameter", "|T|20mm||Depth"}));
     EXPECT_EQ(SubscriptionsOn(_diameter), 2);
+}
+
+TEST_F(OrvKvParameterListSubEventsTest, AChangeWhileALaterRowIsWrittenIsShownInItsOwnRowAndReported) {
+    const auto middle = host::Adopt(new StandInParameter(Length("M", 15)));
+    middle->onShow = [&] {
+        middle->onShow = nullptr;
+        Change(_diameter, 11);
+        SetTolerance(_diameter, 0.3, 0.2);
+        RaiseToleranceChange(_diameter);
+        Change(CATICkeParm_var(middle), 16);
+        Change(_depth, 21);
+    };
+    EXPECT_EQ(SetParameters({{.parameter = _diameter, .name = "D"},
+                             {.parameter = middle, .name = "M"},
+                             {.parameter = _depth, .name = "T"}}),
+              SuccessIn(parameterListSource));
+    EXPECT_EQ(ShownRows(), Rows({"*|D|11mm|+0.3/0.2|Diameter", "|M|16mm|| ", "|T|21mm||Depth"}));
+    EXPECT_EQ(TakeReported(), Reported({"changed D"})) << "the rows that are not written yet are not heard";
 }
 
 TEST_F(AnsweredParameterListTest, AChangeWhenTheFilledListIsShownAgainIsShownInItsRow) {

@@ -164,6 +164,14 @@ TEST_F(OrvKvParameterListSubFaultTest, AParameterThatRaisesAnErrorBecomesTheFail
     ExpectToGoOn();
 }
 
+TEST_F(OrvKvParameterListSubFaultTest, AMessageWithFormatSignsIsTracedAsItIs) {
+    _middle->onShow = [] { CATThrow(new CATInputError("100 %s %n", "ShowCatalogue")); };
+    Report expected = CaughtIn("SetParameters", "100 %s %n");
+    expected.errorClass = "CATInputError";
+    expected.catalogue = "ShowCatalogue";
+    EXPECT_EQ(SetParameters(Around(_middle)), expected);
+}
+
 TEST_F(OrvKvParameterListSubFaultTest, ARaisedObjectThatIsNoErrorEndsTheFillingWithASuccess) {
     _middle->onShow = RaiseOther;
     EXPECT_EQ(SetParameters(Around(_middle)), SuccessIn(parameterListSource));

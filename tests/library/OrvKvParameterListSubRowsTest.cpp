@@ -340,6 +340,49 @@ TEST_F(OrvKvParameterListSubRowsTest, AParameterWithoutANameHasARowLikeAnyOther)
     EXPECT_EQ(TakeReported(), Reported({"changed ", "double click on  at 1, value 1, tolerance 1"}));
 }
 
+// Names, values, tolerance texts and fits of every look.
+const std::string oddTexts[] = {" ",
+                                "(D)",
+                                "a/b\\c",
+                                "100 % %s %n %d",
+                                "/p1",
+                                "two\r\nlines\twith a tab",
+                                "\"quoted\"; 'too'",
+                                "größer 直径 😀 e\u0301 \u202E \u00A0",
+                                "\xFF\xC3",
+                                "*resource error",
+                                std::string(100000, 'x')};
+
+TEST_F(OrvKvParameterListSubRowsTest, AnyTextStandsInItsCellAsItIs) {
+    for (const std::string& text : oddTexts) {
+        const CATICkeParm_var parameter = host::Parameters::NewString("S", text.c_str());
+        SetParameters({{.parameter = parameter, .name = text, .tolerance = text},
+                       {.parameter = parameter, .name = "F", .tolerance = text, .toleranceEditable = 0},
+                       {.parameter = parameter, .name = "V", .valueEditable = 0}});
+        EXPECT_EQ(ShownRows(), Rows({"|" + text + "|" + text + "|" + text + "| ", "|F|(" + text + ")|| ",
+                                     "|V|(" + text + ")|| "}));
+        SetFittingInfo("V", text.c_str());
+        EXPECT_EQ(Cell(3, 3), text);
+    }
+}
+
+TEST_F(OrvKvParameterListSubRowsTest, AParameterIsFoundByAnyName) {
+    for (const std::string& name : oddTexts) {
+        const std::string longer = name + "x";
+        Panel().SetFeatureParameters(FeatureWith({name.c_str()}));
+        SetParameters({{.parameter = _depth, .name = longer}, {.parameter = _diameter, .name = name}});
+        EXPECT_EQ(Cell(1, 0) + Cell(2, 0), "*");
+        EXPECT_EQ(SetFittingInfo(name.c_str(), "H7"), SuccessIn(parameterListSource));
+        EXPECT_EQ(Cell(1, 3), "");
+        EXPECT_EQ(Cell(2, 3), "H7");
+        Change(_diameter, 11);
+        EXPECT_EQ(Cell(2, 2), "11mm");
+        DoubleClick(2);
+        EXPECT_EQ(TakeReported(),
+                  Reported({"changed " + name, "double click on " + name + " at 2, value 1, tolerance 1"}));
+    }
+}
+
 TEST_F(OrvKvParameterListSubRowsTest, AnotherFeatureEndsAllSubscriptionsAndLeavesTheRows) {
     SetParameters({{.parameter = _diameter, .name = "D"}, {.parameter = _depth, .name = "T"}});
     const Rows rows = ShownRows();

@@ -1,6 +1,7 @@
 // The lines of the two tables: values, tolerances, and what happens with parameters that are none.
 
 #include "OrvKvParameterSetListSubTest.h"
+#include "StandInParameter.h"
 
 #include "CATErrorMacros.h"
 #include "CATICkeParm.h"
@@ -10,6 +11,7 @@
 #include "host/DialogDump.h"
 #include "host/DialogUser.h"
 #include "host/Inspector.h"
+#include "host/LiveObjects.h"
 
 #include <functional>
 #include <limits>
@@ -67,9 +69,11 @@ class OrvKvParameterSetListSubCellsTest : public OrvKvParameterSetListSubTest {
         Texts tolerances = {""};
         tolerances.insert(tolerances.end(), iTolerances.begin(), iTolerances.end());
         EXPECT_EQ(AddSet("C", parameters, tolerances),
-                  CaughtIn("SetParameterSet", iKey, iCatalogue, iErrorParameters));
+                  CaughtIn(source, "OrvKvParameterSetListSub::SetParameterSet", iKey, iCatalogue,
+                           iErrorParameters));
         EXPECT_EQ(SetCurrent("A", parameters, tolerances),
-                  CaughtIn("SetCurrentParameters", iKey, iCatalogue, iErrorParameters));
+                  CaughtIn(source, "OrvKvParameterSetListSub::SetCurrentParameters", iKey, iCatalogue,
+                           iErrorParameters));
         EXPECT_EQ(host::DialogDump::Of(*_panel, host::DialogDump::WithLayout), before);
         EXPECT_EQ(AddSet("C", {Length(3), Tolerated(3, 0)}), SuccessIn(source));
         EXPECT_EQ(SetCurrent("C", {Length(3), Tolerated(3, 0)}), SuccessIn(source));
@@ -96,7 +100,7 @@ TEST_F(OrvKvParameterSetListSubCellsTest, AValueThatCannotBeEditedStandsInParent
 
 TEST_F(OrvKvParameterSetListSubCellsTest, AToleranceTextIsShownAsItIs) {
     for (const std::string& text :
-         Texts{"H7", "+0.1 / 0 (100 %d)", "größer\n公差", " ", std::string(100000, 't')}) {
+         Texts{"H7", "+0.1 / 0 (100 %d)", "größer\n公差 \U0001F529", " ", std::string(100000, 't')}) {
         EXPECT_EQ(CellOf(editableTolerance, {Tolerated(1, 0)}, {text}), text);
         EXPECT_EQ(CellOf(fixedTolerance, {Tolerated(1, 0)}, {text}), "(" + text + ")");
     }
@@ -114,32 +118,16 @@ TEST_F(OrvKvParameterSetListSubCellsTest, WithoutATextTheLimitsOfTheParameterAre
         << "the maximum comes first, also when it is the lower one";
 }
 
-// An object with limits that are kept as they are.
-class Limits : public CATIParmTolerance {
-  public:
-    Limits(double iMaximum, double iMinimum) : _maximum(iMaximum), _minimum(iMinimum) {}
-
-    using CATBaseUnknown::QueryInterface;
-    HRESULT QueryInterface(const IID&, void** oPointer) override {
-        AddRef();
-        *oPointer = static_cast<CATIParmTolerance*>(this);
-        return S_OK;
-    }
-    int GetTypeOfTolerance() override { return 1; }
-    double GetMaxTolerance() override { return _maximum; }
-    double GetMinTolerance() override { return _minimum; }
-    HRESULT SetMaxTolerance(double) override { return E_FAIL; }
-    HRESULT SetMinTolerance(double) override { return E_FAIL; }
-    HRESULT Unset() override { return E_FAIL; }
-
-  private:
-    double _maximum;
-    double _minimum;
-};
-
 TEST_F(OrvKvParameterSetListSubCellsTest, AMinusZeroIsShownAsZero) {
-    Limits limits(-0.0, -0.0);
-    EXPECT_EQ(CellOf(editableTolerance, {&limits}, {""}), "0/0");
+    EXPECT_EQ(CellOf(editableTolerance, {host::Adopt(new FixedTolerance(1, -0.0, -0.0))}, {""}), "0/0");
+}
+
+TEST_F(OrvKvParameterSetListSubCellsTest, OnlyAToleranceOfKindOneHasLimits) {
+    for (const int kind : {-1, 0, 2}) {
+        const CATBaseUnknown_var tolerance = host::Adopt(new FixedTolerance(kind, 0.2, 0.1));
+        EXPECT_EQ(CellOf(editableTolerance, {tolerance}, {""}), "") << kind;
+        EXPECT_EQ(CellOf(fixedTolerance, {tolerance}, {""}), "()") << kind;
+    }
 }
 
 TEST_F(OrvKvParameterSetListSubCellsTest, LimitsHaveSixDigitsThatCount) {
@@ -177,7 +165,8 @@ TEST_F(OrvKvParameterSetListSubCellsTest, ListsThatAreTooLongAreReadAsFarAsThere
 TEST_F(OrvKvParameterSetListSubCellsTest, ASetNameIsKeptAsItIs) {
     MakeBuilt();
     SetNames({editableValue});
-    const Texts names = {"größer", "100 %d", "(a)/b", "zwei\nZeilen", "", "表", std::string(100000, 'n')};
+    const Texts names = {
+        "größer", "100 %d", "(a)/b", "zwei\nZeilen", "", "表 \U0001F529", std::string(100000, 'n')};
     for (const std::string& name : names) {
         EXPECT_EQ(AddSet(name, {Length(1)}), SuccessIn(source));
         EXPECT_EQ(SetCurrent(name, {Length(1)}), SuccessIn(source));
@@ -264,14 +253,24 @@ TEST_F(OrvKvParameterSetListSubCellsTest, TheTablesDoNotFollowTheParameters) {
     EXPECT_EQ(LineOf(CurrentTable(), 0), Texts({"A", "50mm", ""})) << "the parameter has changed indeed";
 }
 
-TEST_F(OrvKvParameterSetListSubCellsTest, ParametersAreNotKept) {
+TEST_F(OrvKvParameterSetListSubCellsTest, TheTablesStayAndWorkWhenTheirParametersAreDestroyed) {
     MakeBuilt();
     SetNames({{"D", 1, 1, 1, 1}});
-    const CATBaseUnknown_var length = Length(1);
-    const CATULong before = length->AddRef();
-    AddSet("A", {length}, {""});
-    SetCurrent("A", {length}, {""});
-    EXPECT_EQ(length->Release(), before - 1);
+    const std::size_t before = host::LiveObjects::All().size();
+    {
+        const CATBaseUnknown_var length = Tolerated(0.1, 0);
+        AddSet("A", {length}, {""});
+        SetCurrent("A", {length}, {""});
+        EXPECT_GT(host::LiveObjects::All().size(), before);
+    }
+    EXPECT_EQ(host::LiveObjects::All().size(), before) << "the tables do not keep parameters";
+    EXPECT_EQ(LineOf(SetTable(), 0), Texts({"A", "10mm", "0.1/0"}));
+    EXPECT_EQ(LineOf(CurrentTable(), 0), Texts({"A", "10mm", "0.1/0"}));
+    ASSERT_TRUE(host::DialogUser::Select(SetTable(), {0}));
+    ASSERT_TRUE(host::DialogUser::Activate(CurrentTable(), 0, 2));
+    Texts expected = ChoiceOf("A");
+    expected.push_back("edit 'D' row -1 value 0 tolerance 1");
+    EXPECT_EQ(TakeTold(), expected);
 }
 
 TEST_F(OrvKvParameterSetListSubCellsTest, AShownValueWithoutAParameterFailsAndChangesNothing) {

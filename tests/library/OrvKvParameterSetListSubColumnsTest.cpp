@@ -91,7 +91,8 @@ TEST_F(OrvKvParameterSetListSubColumnsTest, TheTextsOfTheResourceFileAreTaken) {
 
 TEST_F(OrvKvParameterSetListSubColumnsTest, AParameterNameIsKeptAsItIs) {
     MakeBuilt();
-    const Texts names = {"größer", "100 %d", "(a)/b", "zwei\nZeilen", "", std::string(100000, 'x')};
+    const Texts names = {
+        "größer", "100 %d", "(a)/b", "zwei\nZeilen", "", "表 \U0001F529", std::string(100000, 'x')};
     SetNames(ValuesOf(names));
     Texts expected = names;
     expected.insert(expected.begin(), "Parameter Set Name");
@@ -152,6 +153,8 @@ TEST_F(OrvKvParameterSetListSubColumnsTest, CellsOfColumnsBehindTheLimitAreNotSh
     EXPECT_EQ(LineOf(SetTable(), 0), expected);
     EXPECT_EQ(LineOf(CurrentTable(), 0), expected);
     EXPECT_EQ(SetTable().GetLineCount(), 1);
+    ASSERT_TRUE(host::DialogUser::Activate(CurrentTable(), 0, 99));
+    EXPECT_EQ(TakeTold(), Texts({"edit 'P99' row -1 value 1 tolerance 1"}));
 }
 
 TEST_F(OrvKvParameterSetListSubColumnsTest, TheFirstColumnsKeepTheTablesOfBuild) {

@@ -1,6 +1,7 @@
 // What the panel tells the command when a person chooses a set or double-clicks a parameter.
 
 #include "OrvKvParameterSetListSubTest.h"
+#include "PrivateCallback.h"
 
 #include "support/ResourceFolder.h"
 
@@ -10,6 +11,11 @@
 #include "host/MessageCatalogs.h"
 
 #include <functional>
+
+static PrivateCallback<OrvKvParameterSetListSub> onSelection = nullptr;
+static PrivateCallback<OrvKvParameterSetListSub> onEdit = nullptr;
+template struct OpenCallback<onSelection, &OrvKvParameterSetListSub::OnParameterSetSelection>;
+template struct OpenCallback<onEdit, &OrvKvParameterSetListSub::OnCurrentParameterEdit>;
 
 namespace {
 
@@ -99,28 +105,16 @@ TEST_F(OrvKvParameterSetListSubEventsTest, ChoosingALineOfTheCurrentParametersRe
     EXPECT_EQ(Traces().Take(), TraceLines());
 }
 
-// Counts the notifications of one class that reach the panel itself on their way.
-class ListeningSub : public OrvKvParameterSetListSub {
-  public:
-    using OrvKvParameterSetListSub::OrvKvParameterSetListSub;
-
-    CATNotifPropagationMode AnalyseNotification(CATCommand* iFrom, CATNotification* iNotification) override {
-        heard.push_back(Told(iNotification));
-        return OrvKvParameterSetListSub::AnalyseNotification(iFrom, iNotification);
-    }
-    Texts heard;
-};
-
 TEST_F(OrvKvParameterSetListSubEventsTest, TheReportsGoToTheFatherAndNotThroughThePanelItself) {
-    auto* const panel = new ListeningSub(MainWindow());
+    auto* const panel = new ListeningPanel<OrvKvParameterSetListSub>(MainWindow());
     _panel = panel;
     _panel->Build();
     AddSet("A");
     ASSERT_TRUE(host::DialogUser::Select(SetTable(), {0}));
     EXPECT_EQ(TakeTold(), ChoiceOf("A"));
-    EXPECT_EQ(panel->heard, Texts());
+    EXPECT_EQ(panel->Count(), 0);
     SetTable().SendNotification(panel, new OrvKvModifiedParameterInMultiListNotification("A"));
-    EXPECT_EQ(panel->heard, Texts({"modified 'A'"})) << "one that is sent to the panel is counted";
+    EXPECT_EQ(panel->Count(), 1) << "one that is sent to the panel is counted";
 }
 
 TEST_F(OrvKvParameterSetListSubEventsTest, ADoubleClickOnAValueOrToleranceAsksToEditIt) {
@@ -155,7 +149,8 @@ TEST_F(OrvKvParameterSetListSubEventsTest, OfParametersWithOneNameTheFirstDecide
 }
 
 TEST_F(OrvKvParameterSetListSubEventsTest, NamesArePassedOnAsTheyAre) {
-    const Texts names = {"größer", "100 %d", "(a)/b", "zwei\nZeilen", "", std::string(100000, 'x')};
+    const Texts names = {
+        "größer", "100 %d", "(a)/b", "zwei\nZeilen", "", "表 \U0001F529", std::string(100000, 'x')};
     std::vector<Shown> shown;
     Texts expected = {"nothing"};
     for (const std::string& name : names) {
@@ -219,6 +214,43 @@ TEST_F(OrvKvParameterSetListSubEventsTest, OtherWidgetsAreNotListenedTo) {
     event->AddRef();
     SetTable().SendNotification(_panel, event);
     EXPECT_EQ(TakeTold(), ChoiceOf("")) << "the table's own one is answered";
+}
+
+TEST_F(OrvKvParameterSetListSubEventsTest, AChoiceThatDoesNotComeFromAListIsTracedAndReportsNothing) {
+    const TraceLines badSource = {
+        {"OrvKv9SubFrames", 2, "OrvKvParameterSetListSub::OnParameterSetSelection bad event source"}};
+    MakeFilled({"A"});
+    ASSERT_TRUE(host::DialogUser::Select(SetTable(), {0}));
+    EXPECT_EQ(TakeTold(), ChoiceOf("A"));
+    for (CATCommand* const from : std::initializer_list<CATCommand*>{_panel, nullptr}) {
+        (_panel->*onSelection)(from, nullptr, nullptr);
+        EXPECT_EQ(Traces().Take(), badSource);
+        EXPECT_EQ(TakeTold(), Texts());
+    }
+    (_panel->*onSelection)(&SetTable(), nullptr, nullptr);
+    EXPECT_EQ(Traces().Take(), TraceLines());
+    EXPECT_EQ(TakeTold(), ChoiceOf("A"));
+}
+
+TEST_F(OrvKvParameterSetListSubEventsTest, ADoubleClickThatDoesNotComeFromAListReportsNothing) {
+    MakeCurrent({Shown{"D"}});
+    ASSERT_TRUE(host::DialogUser::Activate(CurrentTable(), 0, 1));
+    EXPECT_EQ(TakeTold(), Texts({EditOfValue("D")}));
+    Traces().Take();
+    for (CATCommand* const from : std::initializer_list<CATCommand*>{_panel, nullptr}) {
+        (_panel->*onEdit)(from, nullptr, nullptr);
+        EXPECT_EQ(Traces().Take(), editTrace) << "it is traced all the same";
+        EXPECT_EQ(TakeTold(), Texts());
+    }
+    (_panel->*onEdit)(&CurrentTable(), nullptr, nullptr);
+    EXPECT_EQ(TakeTold(), Texts({EditOfValue("D")}));
+}
+
+TEST_F(OrvKvParameterSetListSubEventsTest, AListThatWasNeverDoubleClickedReportsNothing) {
+    MakeCurrent({Shown{"D"}});
+    (_panel->*onEdit)(&CurrentTable(), nullptr, nullptr);
+    EXPECT_EQ(Traces().Take(), editTrace);
+    EXPECT_EQ(TakeTold(), Texts());
 }
 
 TEST_F(OrvKvParameterSetListSubEventsTest, WithoutMemoryForAReportTheOtherOneIsSent) {
@@ -316,7 +348,7 @@ TEST_F(OrvKvParameterSetListSubAnswersTest, AChosenSetMayBeAnsweredByTakingThePa
                                [] { ASSERT_TRUE(host::DialogUser::Select(SetTable(), {0})); }),
               Texts({"set 'A'"}))
         << "a panel on its way out reports nothing more";
-    EXPECT_EQ(host::DialogPath::Find("OrvKvParameterListSub").widget, nullptr);
+    EXPECT_FALSE(Exists("OrvKvParameterListSub"));
 }
 
 } // namespace

@@ -12,34 +12,12 @@
 #include "host/LiveObjects.h"
 #include "host/MessageCatalogs.h"
 
-#include <algorithm>
-
 namespace {
 
 using namespace support;
 using namespace parameterSetList;
 
 const char* const languages[] = {"", "German", "French", "Japanese"};
-
-Texts NamesOfChildren(const CATDialog& iWidget) {
-    Texts names;
-    for (const CATDialog* child : host::Inspector::Children(iWidget))
-        names.emplace_back(child->GetName().ConvertToChar());
-    return names;
-}
-
-// An attachment in words: "vertical 0 mode 1".
-Texts AttachmentsOf(const CATDialog& iChild) {
-    Texts texts;
-    for (const host::Attachment& each : host::Inspector::AttachmentsOf(iChild))
-        texts.push_back((each.vertical ? "vertical " : "horizontal ") + std::to_string(each.tab) + " mode " +
-                        std::to_string(each.mode));
-    std::sort(texts.begin(), texts.end());
-    return texts;
-}
-
-const Texts fillsItsFrame = {"horizontal 0 mode 1", "horizontal 1 mode 4", "vertical 0 mode 1",
-                             "vertical 1 mode 4"};
 
 TEST_F(OrvKvParameterSetListSubTest, HasTheNameOfTheParameterListFrameAndTheResourcesOfItsOwnClass) {
     Make();
@@ -52,37 +30,28 @@ TEST_F(OrvKvParameterSetListSubTest, HasTheNameOfTheParameterListFrameAndTheReso
 
 TEST_F(OrvKvParameterSetListSubTest, IsEmptyBeforeItIsBuilt) {
     Make();
-    EXPECT_EQ(NamesOfChildren(*_panel), Texts());
+    EXPECT_TRUE(host::Inspector::Children(*_panel).empty());
     EXPECT_EQ(SelectedName(), "");
     EXPECT_EQ(host::CommandInspection::AnalyseCallbacks(*_panel), 0);
 }
 
+// The set frame stretches down, the one of the current parameters keeps its height.
 TEST_F(OrvKvParameterSetListSubTest, BuildMakesTwoFramesWithATableEach) {
     MakeBuilt();
-    EXPECT_EQ(NamesOfChildren(*_panel), Texts({"ParameterSetFrame", "CurrentParameterFrame"}));
-    const std::vector<CATDialog*> frames = host::Inspector::Children(*_panel);
-    EXPECT_EQ(NamesOfChildren(*frames[0]), Texts({"ParameterSetMul"}));
-    EXPECT_EQ(NamesOfChildren(*frames[1]), Texts({"CurrentParameterMul"}));
-    for (const CATDialog* frame : frames)
-        EXPECT_EQ(host::Inspector::Style(*frame), 0UL);
-    for (const CATDlgMultiList* table : {&SetTable(), &CurrentTable()}) {
-        EXPECT_EQ(host::Inspector::Style(*table), 0UL);
-        EXPECT_EQ(host::Inspector::VisibleTextWidth(*table), 20);
-        EXPECT_EQ(AttachmentsOf(*table), fillsItsFrame);
-    }
+    EXPECT_EQ(PiecesOf(*_panel),
+              Pieces({{"CATDlgFrame", "ParameterSetFrame", 0, "0(1)-1(4)", "0(1)-2(4)"},
+                      {"CATDlgFrame", "CurrentParameterFrame", 0, "0(1)-1(4)", "3(1)-4(3)"}}));
+    const auto& sets = Widget<CATDlgFrame>("ParameterSetFrame");
+    const auto& current = Widget<CATDlgFrame>("CurrentParameterFrame");
+    EXPECT_EQ(PiecesOf(sets), Pieces({{"CATDlgMultiList", "ParameterSetMul", 0, "0(1)-1(4)", "0(1)-1(4)"}}));
+    EXPECT_EQ(PiecesOf(current),
+              Pieces({{"CATDlgMultiList", "CurrentParameterMul", 0, "0(1)-1(4)", "0(1)-1(4)"}}));
+    EXPECT_TRUE(host::PlanLayout(*_panel).IsAbove(sets, current));
     EXPECT_EQ(host::Inspector::VisibleTextHeight(SetTable()), 18);
     EXPECT_EQ(host::Inspector::VisibleTextHeight(CurrentTable()), 2);
+    for (const CATDlgMultiList* table : {&SetTable(), &CurrentTable()})
+        EXPECT_EQ(host::Inspector::VisibleTextWidth(*table), 20);
     EXPECT_EQ(host::CommandInspection::AnalyseCallbacks(*_panel), 3);
-}
-
-TEST_F(OrvKvParameterSetListSubTest, TheSetsStretchDownAboveTheCurrentParametersWhichKeepTheirHeight) {
-    MakeBuilt();
-    const std::vector<CATDialog*> frames = host::Inspector::Children(*_panel);
-    EXPECT_EQ(AttachmentsOf(*frames[0]), Texts({"horizontal 0 mode 1", "horizontal 2 mode 4",
-                                                "vertical 0 mode 1", "vertical 1 mode 4"}));
-    EXPECT_EQ(AttachmentsOf(*frames[1]), Texts({"horizontal 3 mode 1", "horizontal 4 mode 3",
-                                                "vertical 0 mode 1", "vertical 1 mode 4"}));
-    EXPECT_TRUE(host::PlanLayout(*_panel).IsAbove(*frames[0], *frames[1]));
 }
 
 TEST_F(OrvKvParameterSetListSubTest, LooksTheSameAsEverAfterBuild) {
@@ -141,6 +110,20 @@ TEST_F(OrvKvParameterSetListSubTest, TheSelectedNameIsEmptyUnlessALineIsSelected
     EXPECT_EQ(SelectedName(), "");
 }
 
+TEST_F(OrvKvParameterSetListSubTest, TheSelectedNameIsEmptyWhenSeveralLinesAreSelected) {
+    MakeFilled({"A", "B"});
+    CATDlgMultiList several(MainWindow(), "Several", CATDlgLstMultisel);
+    several.SetColumnItem(0, "A");
+    several.SetColumnItem(0, "B");
+    int lines[] = {0, 1};
+    several.SetSelect(lines, 2);
+    SetTable() = several;
+    ASSERT_EQ(SetTable().GetSelectCount(), 2);
+    EXPECT_EQ(SelectedName(), "");
+    SetTable().SetSelect(&lines[1], 1);
+    EXPECT_EQ(SelectedName(), "B");
+}
+
 TEST_F(OrvKvParameterSetListSubTest, SettingTheSelectedSetDoesNothingAndSucceeds) {
     Make();
     const auto call = [this] {
@@ -163,21 +146,9 @@ TEST_F(OrvKvParameterSetListSubTest, ADestroyedPanelTakesItsWidgetsAndCallbacksA
     EXPECT_EQ(host::CommandInspection::AnalyseCallbacks(), before + 3);
     delete _panel;
     EXPECT_EQ(host::CommandInspection::AnalyseCallbacks(), before);
-    EXPECT_EQ(host::DialogPath::Find("ParameterSetMul").widget, nullptr);
-    EXPECT_EQ(host::DialogPath::Find("CurrentParameterMul").widget, nullptr);
+    EXPECT_FALSE(Exists("ParameterSetMul"));
+    EXPECT_FALSE(Exists("CurrentParameterMul"));
 }
-
-// A child that counts the callbacks of its father when the father's end takes it along.
-class CountingChild : public CATDlgFrame {
-  public:
-    CountingChild(CATDialog& ioFather, std::vector<int>& ioCounts)
-        : CATDlgFrame(&ioFather, "CountingChild"), _father(ioFather), _counts(ioCounts) {}
-    ~CountingChild() override { _counts.push_back(host::CommandInspection::AnalyseCallbacks(_father)); }
-
-  private:
-    const CATDialog& _father;
-    std::vector<int>& _counts;
-};
 
 TEST_F(OrvKvParameterSetListSubTest, APanelRemovesItsCallbacksBeforeItsWidgetsGo) {
     std::vector<int> counts;

@@ -2,8 +2,7 @@
 
 #include "OrvKvParameterSetListSub.h"
 
-#include "support/ApplicationTest.h"
-#include "support/Report.h"
+#include "PanelTest.h"
 
 #include "CATBaseUnknown.h"
 #include "CATDlgDocument.h"
@@ -11,7 +10,6 @@
 #include "OrvKvModifiedParameterInMultiListNotification.h"
 #include "OrvKvParameterListDoubleClickedNotification.h"
 #include "OrvKvParameterSetSelectedNotification.h"
-#include "host/DialogPath.h"
 #include "host/EventScope.h"
 #include "host/Parameters.h"
 
@@ -135,24 +133,9 @@ inline support::Report SuccessAfterRefresh() {
     return report;
 }
 
-// The failure of an operation inside which a platform error was raised.
-inline support::Report CaughtIn(const std::string& iOperation, const std::string& iKey,
-                                const std::string& iCatalogue, const Texts& iErrorParameters) {
-    support::Report report = support::PlainFailure();
-    report.returns = 1;
-    report.source = source;
-    report.traces = {{"OrvKv9SubFrames", 3, "OrvKvParameterSetListSub::" + iOperation + " -> caught ERROR"},
-                     {"OrvKv9SubFrames", 3, "error message: " + iKey}};
-    report.errorClass = "CATInternalError";
-    report.key = iKey;
-    report.catalogue = iCatalogue;
-    report.parameters = iErrorParameters;
-    return report;
-}
-
 } // namespace parameterSetList
 
-class OrvKvParameterSetListSubTest : public support::ApplicationTest {
+class OrvKvParameterSetListSubTest : public PanelTest {
   protected:
     using Texts = parameterSetList::Texts;
     using Shown = parameterSetList::Shown;
@@ -180,11 +163,8 @@ class OrvKvParameterSetListSubTest : public support::ApplicationTest {
         return host::Parameters::NewLength("D", iMillimetres);
     }
 
-    static CATDlgMultiList& Table(const std::string& iName) {
-        return dynamic_cast<CATDlgMultiList&>(*host::DialogPath::Find(iName).widget);
-    }
-    static CATDlgMultiList& SetTable() { return Table("ParameterSetMul"); }
-    static CATDlgMultiList& CurrentTable() { return Table("CurrentParameterMul"); }
+    static CATDlgMultiList& SetTable() { return Widget<CATDlgMultiList>("ParameterSetMul"); }
+    static CATDlgMultiList& CurrentTable() { return Widget<CATDlgMultiList>("CurrentParameterMul"); }
 
     // Each is one event, as a command would set it off.
     support::Report SetNames(const std::vector<Shown>& iParameters) {

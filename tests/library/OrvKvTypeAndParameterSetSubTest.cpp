@@ -39,16 +39,8 @@ Report SuccessAfter(int iCalledOperations) {
 }
 
 // The failure of an operation in which the selection of a line was refused.
-Report CaughtIn(const std::string& iOperation) {
-    Report report = PlainFailure();
-    report.returns = 1;
-    report.source = source;
-    report.traces = {{"OrvKv9SubFrames", 3, iOperation + " -> caught ERROR"},
-                     {"OrvKv9SubFrames", 3, "error message: ComboSelection"}};
-    report.errorClass = "CATInternalError";
-    report.key = "ComboSelection";
-    report.catalogue = "CATDialog";
-    return report;
+Report RefusedIn(const std::string& iOperation) {
+    return CaughtIn(source, iOperation, "ComboSelection", "CATDialog");
 }
 
 CATListValCATString Keys(int iCount) {
@@ -358,7 +350,7 @@ TEST_F(OrvKvTypeAndParameterSetSubTest, AnErrorRaisedWhileUnselectingBecomesTheF
     host::FaultPoints::FailCall(1, "combo selection");
     const Report report = Observe([&] { return _panel->UnselectParameterSet(0); });
     host::FaultPoints::Stop();
-    EXPECT_EQ(report, CaughtIn("OrvKvTypeAndParameterSetSub::UnselectParameterSet"));
+    EXPECT_EQ(report, RefusedIn("OrvKvTypeAndParameterSetSub::UnselectParameterSet"));
     EXPECT_EQ(SelectedName(), "Set 3");
 }
 
@@ -367,7 +359,7 @@ TEST_F(OrvKvTypeAndParameterSetSubTest, AnErrorRaisedWhileANameIsSelectedBecomes
     host::FaultPoints::FailCall(1, "combo selection");
     const Report report = SetNames(Names(3), 1);
     host::FaultPoints::Stop();
-    EXPECT_EQ(report, CaughtIn("OrvKvTypeAndParameterSetSub::SetParameterSetNames"));
+    EXPECT_EQ(report, RefusedIn("OrvKvTypeAndParameterSetSub::SetParameterSetNames"));
     EXPECT_EQ(SetCombo().GetLineCount(), 3);
     EXPECT_EQ(Command().TakeClasses(), Classes());
     ASSERT_TRUE(host::DialogUser::Choose(SetCombo(), 1));

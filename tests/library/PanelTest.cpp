@@ -68,14 +68,20 @@ CATNotifPropagationMode RaisingCommand::AnalyseNotification(CATCommand*, CATNoti
     CATThrow(new CATInternalError(raisedKey, raisedCatalogue));
 }
 
-support::Report CaughtOfCommandIn(const std::string& iSource, const std::string& iOperation) {
+support::Report CaughtIn(const std::string& iSource, const std::string& iOperation, const std::string& iKey,
+                         const std::string& iCatalogue, const std::vector<std::string>& iParameters) {
     support::Report report = support::PlainFailure();
     report.returns = 1;
     report.source = iSource;
     report.traces = {{"OrvKv9SubFrames", 3, iOperation + " -> caught ERROR"},
-                     {"OrvKv9SubFrames", 3, std::string("error message: ") + raisedKey}};
+                     {"OrvKv9SubFrames", 3, "error message: " + iKey}};
     report.errorClass = "CATInternalError";
-    report.key = raisedKey;
-    report.catalogue = raisedCatalogue;
+    report.key = iKey;
+    report.catalogue = iCatalogue;
+    report.parameters = iParameters;
     return report;
+}
+
+support::Report CaughtOfCommandIn(const std::string& iSource, const std::string& iOperation) {
+    return CaughtIn(iSource, iOperation, raisedKey, raisedCatalogue);
 }

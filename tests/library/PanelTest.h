@@ -83,6 +83,10 @@ class CountingChild : public CATDlgFrame {
     std::vector<int>& _counts;
 };
 
+// What an operation tells that has caught a CATInternalError. iOperation is "Class::Operation".
+support::Report CaughtIn(const std::string& iSource, const std::string& iOperation, const std::string& iKey,
+                         const std::string& iCatalogue, const std::vector<std::string>& iParameters = {});
+
 // A command that fails whenever it hears something.
 class RaisingCommand : public CATCommand {
   public:

@@ -30,8 +30,9 @@ class StandInParameter : public host::Component<CATICkeParm> {
     }
 
     CATUnicodeString Show() override {
-        if (onShow)
-            onShow();
+        const std::function<void()> act = onShow; // may replace itself
+        if (act)
+            act();
         return _length->Show();
     }
 

@@ -10,6 +10,8 @@
 #include "OrvKvReport.h"
 #include "OrvKvResourceName.h"
 
+#include <utility>
+
 static const char SourceFile[] = "OrvKv9SubFrames.m/src/OrvKvGroupAndGeometrySub";
 
 static constexpr int VisibleCharacters = 12;
@@ -83,7 +85,7 @@ long OrvKvGroupAndGeometrySub::SetGeometryText(int iEditorNo, CATUnicodeString i
                                                unsigned long iVisibility) {
     if (_pInsertionGeometrySub == nullptr)
         return OrvKvReport::Failure("Invalid data memeber _pInsertionGeometrySub", OrvKvHere);
-    _pInsertionGeometrySub->SetGeometryText(iEditorNo, iText, iVisibility);
+    _pInsertionGeometrySub->SetGeometryText(iEditorNo, std::move(iText), iVisibility);
     return OrvKvReport::Success(OrvKvHere);
 }
 

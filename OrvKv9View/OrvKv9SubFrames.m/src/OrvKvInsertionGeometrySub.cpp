@@ -116,6 +116,7 @@ void OrvKvInsertionGeometrySub::BuildInvertButton() {
                         static_cast<CATCommandMethod>(&OrvKvInsertionGeometrySub::OnInvertFeature));
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): commands call it as it is
 long OrvKvInsertionGeometrySub::SetGeometryText(int iEditorNo, CATUnicodeString iText,
                                                 unsigned long iVisibility) {
     switch (iEditorNo) {

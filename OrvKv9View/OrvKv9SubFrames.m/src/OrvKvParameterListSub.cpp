@@ -7,6 +7,8 @@
 #include "CATIParmTolerance.h"
 #include "CATMsgCatalog.h"
 #include "IsTempParameterModified.h"
+#include "OrvKvAsMultiList.h"
+#include "OrvKvCellText.h"
 #include "OrvKvGuard.h"
 #include "OrvKvModifiedParameterInMultiListNotification.h"
 #include "OrvKvNameIndex.h"
@@ -22,7 +24,7 @@ static const char SourceFile[] = "OrvKv9SubFrames.m/src/OrvKvParameterListSub";
 
 static constexpr const char* Catalog = "OrvKvParameterListSub";
 static constexpr int NoLine = -1;
-static constexpr int ToleranceIsSet = 1;
+static constexpr int NoRow = 0;
 
 enum Column { MarkerColumn, NameColumn, ValueColumn, ToleranceColumn, DescriptionColumn, AllColumns };
 
@@ -36,40 +38,29 @@ static constexpr struct {
                               {"ParameterMul.ColumnTitle4", "*Name"},
                               {"ParameterMul.ColumnTitle3", "*Tolerance"}};
 
-static CATUnicodeString InParentheses(const CATUnicodeString& iText) {
-    CATUnicodeString text("(");
-    text += iText;
-    text += ")";
-    return text;
-}
-
 static CATUnicodeString ShownValue(const CATBaseUnknown_var& iParameter, bool iEditable) {
     const CATUnicodeString value = CATICkeParm_var(iParameter)->Show();
-    return iEditable ? value : InParentheses(value);
+    return iEditable ? value : OrvKvInParentheses(value);
 }
 
 // A blank where the catalogue has no description.
 static CATUnicodeString DescriptionOf(const CATString& iName) {
     static const CATString catalog("OrvKvParametersDescription");
     static const CATUnicodeString missing("*resource error");
-    const CATUnicodeString text = CATMsgCatalog::BuildMessage(catalog, iName, nullptr, 0, missing);
-    return text == missing ? CATUnicodeString(" ") : text;
-}
-
-static CATUnicodeString TextOf(double iDeviation) {
-    CATUnicodeString text;
-    text.BuildFromNum(iDeviation + 0.0, "%g"); // the sum turns -0 into 0
+    CATUnicodeString text = CATMsgCatalog::BuildMessage(catalog, iName, nullptr, 0, missing);
+    if (text == missing)
+        text = " ";
     return text;
 }
 
 // "+0.1/-0.05"; empty when the parameter has no tolerance or both deviations are 0.
 static CATUnicodeString DeviationsOf(const CATBaseUnknown_var& iParameter) {
     const CATIParmTolerance_var tolerance(iParameter);
-    if (!tolerance || tolerance->GetTypeOfTolerance() != ToleranceIsSet)
+    if (!tolerance || tolerance->GetTypeOfTolerance() != OrvKvToleranceIsSet)
         return CATUnicodeString();
     const double maximum = tolerance->GetMaxTolerance();
-    const CATUnicodeString upper = TextOf(maximum);
-    const CATUnicodeString lower = TextOf(tolerance->GetMinTolerance());
+    const CATUnicodeString upper = OrvKvDeviationText(maximum);
+    const CATUnicodeString lower = OrvKvDeviationText(tolerance->GetMinTolerance());
     if (upper == "0" && lower == "0")
         return CATUnicodeString();
     CATUnicodeString deviations(maximum > 0.0 ? "+" : "");
@@ -94,7 +85,7 @@ OrvKvImplementResourceName(OrvKvParameterListSub, CATDlgFrame);
 OrvKvParameterListSub::OrvKvParameterListSub(CATDialog* iParent, unsigned char iNoToleranceColumn)
     : CATDlgFrame(iParent, "OrvKvParameterListSub"), _pParameterMul(nullptr),
       _NoToleranceColumn(iNoToleranceColumn), _StopNotification(0), _pPositions(new OrvKvNameIndex),
-      _pRows(new OrvKvNameIndex), _Refills(0) {}
+      _Refills(0) {}
 
 OrvKvParameterListSub::OrvKvParameterListSub(const OrvKvParameterListSub& iOther)
     : CATDlgFrame(iOther), _pParameterMul(iOther._pParameterMul), _Parameters(iOther._Parameters),
@@ -102,8 +93,8 @@ OrvKvParameterListSub::OrvKvParameterListSub(const OrvKvParameterListSub& iOther
       _ToleranceShown(iOther._ToleranceShown), _ValueEditable(iOther._ValueEditable),
       _ToleranceEditable(iOther._ToleranceEditable), _NoToleranceColumn(iOther._NoToleranceColumn),
       _FeatureParameters(iOther._FeatureParameters), _StopNotification(iOther._StopNotification),
-      _pPositions(new OrvKvNameIndex(*iOther._pPositions)), _pRows(new OrvKvNameIndex(*iOther._pRows)),
-      _Refills(0) {}
+      _pPositions(new OrvKvNameIndex(*iOther._pPositions)), _FirstPositions(iOther._FirstPositions),
+      _FirstRows(iOther._FirstRows), _Refills(0) {}
 
 OrvKvParameterListSub& OrvKvParameterListSub::operator=(const OrvKvParameterListSub& iOther) {
     if (this == &iOther)
@@ -122,7 +113,8 @@ OrvKvParameterListSub& OrvKvParameterListSub::operator=(const OrvKvParameterList
     _FeatureParameters = iOther._FeatureParameters;
     _StopNotification = iOther._StopNotification;
     *_pPositions = *iOther._pPositions;
-    *_pRows = *iOther._pRows;
+    _FirstPositions = iOther._FirstPositions;
+    _FirstRows = iOther._FirstRows;
     return *this;
 }
 
@@ -131,7 +123,6 @@ OrvKvParameterListSub::~OrvKvParameterListSub() {
         RemoveAnalyseNotificationCB(_pParameterMul, _pParameterMul->GetListActivateNotification(), nullptr);
     ForgetParameters();
     _pParameterMul = nullptr;
-    delete _pRows;
     delete _pPositions;
 }
 
@@ -192,8 +183,9 @@ HRESULT OrvKvParameterListSub::SetFittingInfo(const CATString& iName, const CATU
     if (_pParameterMul == nullptr)
         return OrvKvReport::Failure("Invalid data member _pParameterMul", OrvKvHere);
     return OrvKvGuard::RunIgnoringOthers("OrvKvParameterListSub::SetFittingInfo", OrvKvHere, [&]() -> long {
-        const int row = _pRows->Find(iName.ConvertToChar());
-        if (row != OrvKvNameIndex::Absent)
+        const int position = _pPositions->Find(iName.ConvertToChar());
+        const int row = position == OrvKvNameIndex::Absent ? NoRow : _FirstRows[position];
+        if (row != NoRow)
             SetItem(row, ToleranceColumn, iFitting);
         return OrvKvReport::Success(OrvKvHere);
     });
@@ -210,13 +202,14 @@ void OrvKvParameterListSub::StopParameterValueChangedNotification(unsigned char 
 }
 
 void OrvKvParameterListSub::OnParameterListActivateNotification(CATCommand* iFrom, CATNotification*, void*) {
-    if (iFrom == nullptr || iFrom->IsAKindOf(CATDlgMultiList::ClassName()) == 0) {
+    CATDlgMultiList* const list = OrvKvAsMultiList(iFrom);
+    if (list == nullptr) {
         OrvKvTrace::Print(OrvKvTraceSubFrames, OrvKvTraceEvent,
                           "OrvKvParameterListSub::OnParameterListSelectNotification bad event source");
         return;
     }
     int line = NoLine;
-    static_cast<CATDlgMultiList*>(iFrom)->GetSelect(&line, 1);
+    list->GetSelect(&line, 1);
     const int position = PositionOfRow(line + 1);
     if (position == OrvKvNameIndex::Absent)
         return;
@@ -284,10 +277,12 @@ void OrvKvParameterListSub::SetItem(int iRow, int iColumn, const CATUnicodeStrin
 void OrvKvParameterListSub::IndexNames() {
     _pPositions->Clear();
     _pPositions->Reserve(_Names.Size());
-    for (int position = 1; position <= _Names.Size(); ++position)
-        _pPositions->Add(_Names[position].ConvertToChar(), position);
-    _pRows->Clear();
-    _pRows->Reserve(_Names.Size());
+    _FirstPositions.RemoveAll();
+    _FirstRows.RemoveAll();
+    for (int position = 1; position <= _Names.Size(); ++position) {
+        _FirstPositions.Append(_pPositions->Add(_Names[position].ConvertToChar(), position));
+        _FirstRows.Append(NoRow);
+    }
 }
 
 void OrvKvParameterListSub::Refill(const CATListValCATUnicodeString& iTolerances) {
@@ -308,7 +303,9 @@ void OrvKvParameterListSub::AppendRow(int iRow, int iPosition, const CATUnicodeS
     const CATString name = _Names[iPosition];
     _pParameterMul->SetColumnItem(MarkerColumn, MarkerOf(name));
     _pParameterMul->SetColumnItem(NameColumn, name);
-    _pRows->Add(name.ConvertToChar(), iRow);
+    int& firstRow = _FirstRows[_FirstPositions[iPosition]];
+    if (firstRow == NoRow)
+        firstRow = iRow;
     if (_ValueShown[iPosition] >= 1)
         _pParameterMul->SetColumnItem(ValueColumn, ShownValue(parameter, _ValueEditable[iPosition] != 0));
     if (_NoToleranceColumn == 0)
@@ -320,11 +317,11 @@ void OrvKvParameterListSub::AppendRow(int iRow, int iPosition, const CATUnicodeS
 
 void OrvKvParameterListSub::AppendTolerance(int iRow, int iPosition, const CATUnicodeString& iTolerance) {
     if (iTolerance == "")
-        UpdateTolerance(iRow, iPosition, _pPositions->Find(_Names[iPosition].ConvertToChar()));
+        UpdateTolerance(iRow, iPosition, _FirstPositions[iPosition]);
     else if (_ToleranceEditable[iPosition] != 0)
         _pParameterMul->SetColumnItem(ToleranceColumn, iTolerance);
     else // in place of the value
-        _pParameterMul->SetColumnItem(ValueColumn, InParentheses(iTolerance));
+        _pParameterMul->SetColumnItem(ValueColumn, OrvKvInParentheses(iTolerance));
 }
 
 void OrvKvParameterListSub::UpdateTolerance(int iRow, int iPosition, int iLocated) {
@@ -332,7 +329,7 @@ void OrvKvParameterListSub::UpdateTolerance(int iRow, int iPosition, int iLocate
     if (_ToleranceEditable[iPosition] != 0)
         text = DeviationsOf(_Parameters[iLocated]);
     else if (_ToleranceShown[iPosition] != 0)
-        text = InParentheses(DeviationsOf(_Parameters[iLocated]));
+        text = OrvKvInParentheses(DeviationsOf(_Parameters[iLocated]));
     if (_pParameterMul->GetColumnCount() == 0 && text == "" && iRow < 2)
         return;
     SetItem(iRow, ToleranceColumn, text);
@@ -364,5 +361,6 @@ void OrvKvParameterListSub::ForgetParameters() {
     _ValueEditable.RemoveAll();
     _ToleranceEditable.RemoveAll();
     _pPositions->Clear();
-    _pRows->Clear();
+    _FirstPositions.RemoveAll();
+    _FirstRows.RemoveAll();
 }

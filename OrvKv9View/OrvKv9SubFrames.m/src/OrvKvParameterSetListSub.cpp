@@ -1,8 +1,7 @@
 #include "OrvKvParameterSetListSub.h"
 
 #include "CATDlgMultiList.h"
-#include "CATICkeParm.h"
-#include "CATIParmTolerance.h"
+#include "OrvKvAsMultiList.h"
 #include "OrvKvGuard.h"
 #include "OrvKvLayout.h"
 #include "OrvKvModifiedParameterInMultiListNotification.h"
@@ -12,6 +11,7 @@
 #include "OrvKvParameterSetSelectedNotification.h"
 #include "OrvKvReport.h"
 #include "OrvKvResourceName.h"
+#include "OrvKvSetCells.h"
 #include "OrvKvTrace.h"
 
 #include <vector>
@@ -24,11 +24,9 @@ static constexpr CATDlgStyle FrameWithoutTitle = OrvKvPlainFrame | 0x40000;
 static constexpr int VisibleSets = 18;
 static constexpr int VisibleCurrentSets = 2;
 static constexpr int VisibleTextWidth = 20;
-static constexpr int MaximumColumns = 100;
 static constexpr int MaximumVisibleColumns = 10;
 static constexpr int ValueTextWidth = 3;
 
-static constexpr int ToleranceIsSet = 1;
 // Values of the notifications about a double click.
 static constexpr int NoRow = -1;
 static constexpr unsigned char EditsTolerance = 1;
@@ -81,26 +79,6 @@ bool IsMarked(const CATUnicodeString& iTitle, const CATUnicodeString& iMark) {
     return iMark.GetLengthInByte() > 0 && iTitle.SearchSubString(iMark) >= 0;
 }
 
-// A column behind that of the set names.
-struct Column {
-    int parameter; // position, from 1
-    bool isTolerance;
-};
-
-// What the columns show, as far as the tables hold them.
-std::vector<Column> ColumnsOf(const CATRawCollint& iShowValue, const CATRawCollint& iShowTolerance) {
-    std::vector<Column> columns;
-    for (int parameter = 1; parameter <= iShowValue.Size(); ++parameter) {
-        if (iShowValue[parameter] > 0)
-            columns.push_back(Column{parameter, false});
-        if (iShowTolerance[parameter] > 0)
-            columns.push_back(Column{parameter, true});
-    }
-    if (columns.size() >= MaximumColumns)
-        columns.resize(MaximumColumns - 1);
-    return columns;
-}
-
 // Gives a table its columns, and no lines.
 void ShowColumns(CATDlgMultiList& ioTable, const std::vector<CATUnicodeString>& iTitles) {
     const int count = static_cast<int>(iTitles.size());
@@ -111,52 +89,9 @@ void ShowColumns(CATDlgMultiList& ioTable, const std::vector<CATUnicodeString>& 
         ioTable.SetColumnTextWidth(column, ValueTextWidth);
 }
 
-void WriteLine(CATDlgMultiList& ioTable, const CATListValCATUnicodeString& iTexts, int iLine) {
-    for (int column = 0; column < iTexts.Size(); ++column)
-        ioTable.SetColumnItem(column, iTexts[column + 1], iLine, OrvKvAppend);
-}
-
-// What cannot be edited stands in parentheses.
-CATUnicodeString Cell(const CATUnicodeString& iText, int iEditable) {
-    return iEditable < 1 ? "(" + iText + ")" : iText;
-}
-
-CATUnicodeString LimitText(double iDeviation) {
-    CATUnicodeString text;
-    text.BuildFromNum(iDeviation == 0.0 ? 0.0 : iDeviation, "%g"); // no "-0"
-    return text;
-}
-
-// The limits that the parameter itself has, the maximum first; empty when it has none.
-CATUnicodeString LimitsOf(const CATBaseUnknown_var& iParameter) {
-    const CATIParmTolerance_var tolerance(iParameter);
-    if (tolerance->GetTypeOfTolerance() != ToleranceIsSet)
-        return CATUnicodeString();
-    return LimitText(tolerance->GetMaxTolerance()) + "/" + LimitText(tolerance->GetMinTolerance());
-}
-
-CATUnicodeString ValueCell(const CATListValCATBaseUnknown_var& iParameters, int iPosition, int iEditable) {
-    if (iPosition > iParameters.Size())
-        return CATUnicodeString();
-    const CATICkeParm_var parameter(iParameters[iPosition]);
-    return Cell(parameter->Show(), iEditable);
-}
-
-CATUnicodeString ToleranceCell(const CATListValCATBaseUnknown_var& iParameters,
-                               const CATListValCATUnicodeString& iTolerances, int iPosition, int iEditable) {
-    if (iPosition > iTolerances.Size())
-        return CATUnicodeString();
-    if (iTolerances[iPosition].GetLengthInByte() > 0)
-        return Cell(iTolerances[iPosition], iEditable);
-    if (iPosition > iParameters.Size())
-        return CATUnicodeString();
-    return Cell(LimitsOf(iParameters[iPosition]), iEditable);
-}
-
-// The list that sent a notification; null for any other sender.
-const CATDlgMultiList* AsList(const CATCommand* iFrom) {
-    const bool isList = iFrom != nullptr && iFrom->IsAKindOf(CATDlgMultiList::ClassName()) != 0;
-    return isList ? static_cast<const CATDlgMultiList*>(iFrom) : nullptr;
+void WriteLine(CATDlgMultiList& ioTable, const std::vector<CATUnicodeString>& iTexts, int iLine) {
+    for (int column = 0; column < static_cast<int>(iTexts.size()); ++column)
+        ioTable.SetColumnItem(column, iTexts[static_cast<std::size_t>(column)], iLine, OrvKvAppend);
 }
 
 // The name in the first selected line; empty when there is none.
@@ -255,20 +190,9 @@ long OrvKvParameterSetListSub::SetParameterNames(const CATListValCATBaseUnknown_
     _ValueEditable = iValueEditable;
     _ShowTolerance = iShowTolerance;
     _ToleranceEditable = iToleranceEditable;
-    _pPositions->Clear();
-    _pPositions->Reserve(count);
-    for (int parameter = 1; parameter <= count; ++parameter)
-        _pPositions->Add(_ParameterNames[parameter].ConvertToChar(), parameter);
+    IndexNames();
     _pSetLines->Clear();
-
-    const CATUnicodeString mark = ToleranceMark(*this);
-    std::vector<CATUnicodeString> titles(1, TextOr(*this, "ParamSetName", "Parameter Set Name"));
-    for (const Column& column : ColumnsOf(_ShowValue, _ShowTolerance)) {
-        const CATUnicodeString name(_ParameterNames[column.parameter]);
-        titles.push_back(column.isTolerance ? name + mark : name);
-    }
-    ShowColumns(*_pParameterSetMul, titles);
-    ShowColumns(*_pCurrentParameterMul, titles);
+    ShowTitles();
     return OrvKvReport::Success(OrvKvHere);
 }
 
@@ -278,7 +202,7 @@ long OrvKvParameterSetListSub::SetParameterSet(const CATUnicodeString& iSetName,
     if (!HasTables())
         return OrvKvReport::Failure(NoTables, OrvKvHere);
     return OrvKvGuard::Run("OrvKvParameterSetListSub::SetParameterSet", OrvKvHere, [&]() -> long {
-        const CATListValCATUnicodeString texts = LineOf(iSetName, iParameters, iTolerances);
+        const std::vector<CATUnicodeString> texts = Cells().Line(iSetName, iParameters, iTolerances);
         const int line = _pParameterSetMul->GetLineCount();
         WriteLine(*_pParameterSetMul, texts, line + 1);
         _pSetLines->Add(iSetName.ConvertToChar(), line);
@@ -293,7 +217,7 @@ long OrvKvParameterSetListSub::SetCurrentParameters(const CATUnicodeString& iSet
     if (!HasTables())
         return OrvKvReport::Failure(NoTables, OrvKvHere);
     return OrvKvGuard::Run("OrvKvParameterSetListSub::SetCurrentParameters", OrvKvHere, [&]() -> long {
-        const CATListValCATUnicodeString texts = LineOf(iSetName, iParameters, iTolerances);
+        const std::vector<CATUnicodeString> texts = Cells().Line(iSetName, iParameters, iTolerances);
         _pCurrentParameterMul->ClearLine(OrvKvAllLines);
         _pCurrentParameterMul->SetVisibleTextHeight(VisibleCurrentSets);
         WriteLine(*_pCurrentParameterMul, texts, 1);
@@ -304,6 +228,7 @@ long OrvKvParameterSetListSub::SetCurrentParameters(const CATUnicodeString& iSet
     });
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): commands call it as it is
 long OrvKvParameterSetListSub::SetSelectedParameterSet(CATListValCATUnicodeString, CATUnicodeString) {
     return OrvKvReport::Success(OrvKvHere);
 }
@@ -315,7 +240,7 @@ CATUnicodeString OrvKvParameterSetListSub::GetSelectedParameterSetName() {
 }
 
 void OrvKvParameterSetListSub::OnParameterSetSelection(CATCommand* iFrom, CATNotification*, void*) {
-    const CATDlgMultiList* const list = AsList(iFrom);
+    const CATDlgMultiList* const list = OrvKvAsMultiList(iFrom);
     if (list == nullptr) {
         OrvKvTrace::Print(OrvKvTraceSubFrames, OrvKvTraceEvent,
                           "OrvKvParameterSetListSub::OnParameterSetSelection bad event source");
@@ -328,7 +253,7 @@ void OrvKvParameterSetListSub::OnParameterSetSelection(CATCommand* iFrom, CATNot
 void OrvKvParameterSetListSub::OnCurrentParameterEdit(CATCommand* iFrom, CATNotification*, void*) {
     OrvKvTrace::Print(OrvKvTraceSubFrames, OrvKvTraceEvent,
                       "OrvKvParameterSetListSub::OnCurrentParameterEdit");
-    const CATDlgMultiList* const list = AsList(iFrom);
+    const CATDlgMultiList* const list = OrvKvAsMultiList(iFrom);
     const int column = list == nullptr ? 0 : list->GetActivatedColumn();
     if (column < 1)
         return;
@@ -375,19 +300,22 @@ bool OrvKvParameterSetListSub::HasTables() const {
     return _pParameterSetMul != nullptr && _pCurrentParameterMul != nullptr;
 }
 
-CATListValCATUnicodeString
-OrvKvParameterSetListSub::LineOf(const CATUnicodeString& iSetName,
-                                 const CATListValCATBaseUnknown_var& iParameters,
-                                 const CATListValCATUnicodeString& iTolerances) const {
-    CATListValCATUnicodeString texts;
-    texts.Append(iSetName);
-    for (const Column& column : ColumnsOf(_ShowValue, _ShowTolerance)) {
-        const int parameter = column.parameter;
-        texts.Append(column.isTolerance
-                         ? ToleranceCell(iParameters, iTolerances, parameter, _ToleranceEditable[parameter])
-                         : ValueCell(iParameters, parameter, _ValueEditable[parameter]));
-    }
-    return texts;
+OrvKvSetCells OrvKvParameterSetListSub::Cells() const {
+    return OrvKvSetCells(_ShowValue, _ValueEditable, _ShowTolerance, _ToleranceEditable);
+}
+
+void OrvKvParameterSetListSub::IndexNames() {
+    _pPositions->Clear();
+    _pPositions->Reserve(_ParameterNames.Size());
+    for (int parameter = 1; parameter <= _ParameterNames.Size(); ++parameter)
+        _pPositions->Add(_ParameterNames[parameter].ConvertToChar(), parameter);
+}
+
+void OrvKvParameterSetListSub::ShowTitles() {
+    const std::vector<CATUnicodeString> titles = Cells().Titles(
+        TextOr(*this, "ParamSetName", "Parameter Set Name"), _ParameterNames, ToleranceMark(*this));
+    ShowColumns(*_pParameterSetMul, titles);
+    ShowColumns(*_pCurrentParameterMul, titles);
 }
 
 void OrvKvParameterSetListSub::UseSetTable(CATDlgMultiList* iTable) {

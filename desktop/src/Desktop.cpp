@@ -71,7 +71,12 @@ void Desktop::OnChanges(const host::DialogChanges& iChanges) {
     _tree->Apply(iChanges);
 }
 
-// Ahead of the drawing: widgets that are gone must be gone here before anything is drawn of them.
+// At once: a drawing may come before the idle step, and must not read what is gone.
+void Desktop::OnDestroyed(const CATDialog& iWidget) {
+    _tree->Remove(iWidget);
+}
+
+// Ahead of the drawing, so that little is drawn that changes at once.
 void Desktop::OnIdleNeeded() {
     QCoreApplication::postEvent(_idle.get(), new QEvent(QEvent::User), Qt::HighEventPriority);
 }

@@ -5,6 +5,7 @@
 #include "StandardButtons.h"
 #include "Texts.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
@@ -20,17 +21,19 @@ QMessageBox::Icon IconFor(CATDlgStyle iStyle) {
 
 } // namespace
 
+// The box goes with its parent, should the program destroy that while the box waits.
 int AskInWindow(const host::Message& iMessage, QWidget* iParent) {
-    QMessageBox box(iParent);
-    box.setObjectName(ToQt(iMessage.name));
-    box.setWindowModality(Qt::ApplicationModal);
-    box.setIcon(IconFor(iMessage.style));
-    box.setWindowTitle(ToQt(iMessage.title));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(ToQt(iMessage.text));
-    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    box.addButton(QMessageBox::Ok)->setText(StandardButtons::TextOf(CATDlgWndOK));
-    box.exec();
+    const QPointer<QMessageBox> box(new QMessageBox(iParent));
+    box->setObjectName(ToQt(iMessage.name));
+    box->setWindowModality(Qt::ApplicationModal);
+    box->setIcon(IconFor(iMessage.style));
+    box->setWindowTitle(ToQt(iMessage.title));
+    box->setTextFormat(Qt::PlainText);
+    box->setText(ToQt(iMessage.text));
+    box->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    box->addButton(QMessageBox::Ok)->setText(StandardButtons::TextOf(CATDlgWndOK));
+    box->exec();
+    delete box;
     return static_cast<int>(CATDlgWndOK);
 }
 

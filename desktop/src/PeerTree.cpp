@@ -36,13 +36,24 @@ void PeerTree::AddAll() {
 
 void PeerTree::Apply(const host::DialogChanges& iChanges) {
     const QScopedValueRollback<bool> applying(_isApplying, true);
-    for (const CATDialog* widget : iChanges.destroyed)
-        Remove(*widget);
     for (CATDialog* widget : iChanges.created)
         Add(*widget);
     for (const auto& [widget, kinds] : iChanges.changed)
         Refresh(*widget, kinds);
     Settle();
+}
+
+void PeerTree::Remove(const CATDialog& iWidget) {
+    const auto found = _peers.find(&iWidget);
+    if (found == _peers.end())
+        return;
+    const QScopedValueRollback<bool> applying(_isApplying, true);
+    Peer* const peer = found->second;
+    _peers.erase(found);
+    _windows.erase(std::remove(_windows.begin(), _windows.end(), peer), _windows.end());
+    NoteTypingEnded(*peer);
+    peer->Detach();
+    peer->deleteLater();
 }
 
 void PeerTree::RefreshAll() {
@@ -96,18 +107,6 @@ void PeerTree::Add(CATDialog& ioWidget) {
         NoteContentOf(&ioWidget);
     NoteWindowOf(ioWidget);
     peer->Refresh(everything);
-}
-
-void PeerTree::Remove(const CATDialog& iWidget) {
-    const auto found = _peers.find(&iWidget);
-    if (found == _peers.end())
-        return;
-    Peer* const peer = found->second;
-    _peers.erase(found);
-    _windows.erase(std::remove(_windows.begin(), _windows.end(), peer), _windows.end());
-    NoteTypingEnded(*peer);
-    peer->Detach();
-    peer->deleteLater();
 }
 
 void PeerTree::Refresh(CATDialog& ioWidget, unsigned int iKinds) {

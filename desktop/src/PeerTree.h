@@ -29,7 +29,10 @@ class PeerTree {
 
     // Shows the windows that the host holds already.
     void AddAll();
+    // Shows what has come and changed.
     void Apply(const host::DialogChanges& iChanges);
+    // Takes leave of a widget that is being destroyed.
+    void Remove(const CATDialog& iWidget);
     void RefreshAll();
 
     // Null when the host widget is not shown.
@@ -50,7 +53,6 @@ class PeerTree {
   private:
     void AddWithChildren(CATDialog& ioWidget);
     void Add(CATDialog& ioWidget);
-    void Remove(const CATDialog& iWidget);
     void Refresh(CATDialog& ioWidget, unsigned int iKinds);
     void NoteContentOf(CATDialog* iContainer);
     void NoteWindowOf(const CATDialog& iWidget);

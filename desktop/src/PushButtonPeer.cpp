@@ -11,20 +11,25 @@
 
 namespace desktop {
 
+namespace {
+
+QPushButton* NewButton(const CATDlgPushButton& iButton, QWidget* iParent) {
+    auto* const button = new QPushButton(iParent);
+    button->setAutoDefault(false);
+    button->setFlat((host::Inspector::Style(iButton) & CATDlgPusNoShadow) != 0);
+    return button;
+}
+
+} // namespace
+
 PushButtonPeer::PushButtonPeer(PeerTree& ioTree, CATDlgPushButton& ioButton, QWidget* iParent)
-    : Peer(ioTree, ioButton, new QPushButton(iParent)), _button(ioButton) {
-    Button().setAutoDefault(false);
-    Button().setFlat((host::Inspector::Style(ioButton) & CATDlgPusNoShadow) != 0);
-    connect(&Button(), &QPushButton::clicked, this,
+    : ButtonPeer(ioTree, ioButton, NewButton(ioButton, iParent)), _button(ioButton) {
+    connect(&Button(), &QAbstractButton::clicked, this,
             [this] { Perform([this] { return host::DialogUser::Press(_button); }); });
 }
 
 QString PushButtonPeer::Caption() const {
-    return Button().icon().isNull() ? ToQt(_button.GetTitle()) : QString();
-}
-
-void PushButtonPeer::ShowCaption(int iMnemonic) {
-    Button().setText(WithMnemonic(Caption(), iMnemonic));
+    return Button().icon().isNull() ? ButtonPeer::Caption() : QString();
 }
 
 bool PushButtonPeer::IsOneLine() const {
@@ -37,10 +42,6 @@ void PushButtonPeer::ShowState(unsigned int iKinds) {
     const bool needsTitleAsHelp = !Button().icon().isNull() && Button().toolTip().isEmpty();
     if (needsTitleAsHelp)
         Button().setToolTip(AsPlainHelp(ToQt(_button.GetTitle())));
-}
-
-QPushButton& PushButtonPeer::Button() const {
-    return static_cast<QPushButton&>(*Widget());
 }
 
 } // namespace desktop

@@ -2,7 +2,6 @@
 
 #include "CATDlgRadioButton.h"
 #include "PeerTree.h"
-#include "Texts.h"
 #include "host/DialogUser.h"
 #include "host/Inspector.h"
 
@@ -11,16 +10,8 @@
 namespace desktop {
 
 RadioButtonPeer::RadioButtonPeer(PeerTree& ioTree, CATDlgRadioButton& ioButton, QWidget* iParent)
-    : Peer(ioTree, ioButton, new QRadioButton(iParent)), _button(ioButton) {
-    connect(&Button(), &QRadioButton::clicked, this, [this] { Check(); });
-}
-
-QString RadioButtonPeer::Caption() const {
-    return ToQt(_button.GetTitle());
-}
-
-void RadioButtonPeer::ShowCaption(int iMnemonic) {
-    Button().setText(WithMnemonic(Caption(), iMnemonic));
+    : ButtonPeer(ioTree, ioButton, new QRadioButton(iParent)), _button(ioButton) {
+    connect(&Button(), &QAbstractButton::clicked, this, [this] { Check(); });
 }
 
 // Qt keeps one button of an exclusive group checked; the host may have none.
@@ -37,10 +28,6 @@ void RadioButtonPeer::Check() {
     for (const CATDialog* sibling : host::Inspector::Children(*host::Inspector::Parent(_button)))
         if (Peer* const peer = Tree().PeerOf(*sibling))
             peer->Refresh(host::ChangeState);
-}
-
-QRadioButton& RadioButtonPeer::Button() const {
-    return static_cast<QRadioButton&>(*Widget());
 }
 
 } // namespace desktop

@@ -6,25 +6,14 @@
 #include "host/DialogUser.h"
 #include "host/Inspector.h"
 
-#include <QtCore/QScopedValueRollback>
-
 namespace desktop {
-
-namespace {
-
-// Lines were removed, or selected; never with lines that were written alone.
-bool MayHaveLostLines(unsigned int iKinds) {
-    constexpr unsigned int lost = host::ChangeContent | host::ChangeSelection;
-    return (iKinds & lost) == lost && iKinds != everything;
-}
-
-} // namespace
 
 TablePeer::TablePeer(PeerTree& ioTree, CATDlgMultiList& ioList, QWidget* iParent)
     : Peer(ioTree, ioList,
            new TableView(iParent, {[this](const std::vector<int>& iRows) { Select(iRows); },
                                    [this](int iRow, int iColumn) { Activate(iRow, iColumn); }})),
-      _list(ioList), _view(static_cast<TableView*>(Widget())), _rows(new TableModel(ioList, _view)) {
+      _list(ioList), _view(static_cast<TableView*>(Widget())), _rows(new TableModel(ioList, _view)),
+      _clearings(host::Inspector::Clearings(ioList)) {
     _view->Show(*_rows, host::Inspector::IsMultiSelection(ioList));
 }
 
@@ -36,20 +25,21 @@ void TablePeer::Detach() {
 void TablePeer::ShowState(unsigned int iKinds) {
     bool showsSelection = (iKinds & host::ChangeSelection) != 0;
     if ((iKinds & host::ChangeContent) != 0)
-        showsSelection |= _view->Follow(IsRefilled(iKinds) ? TableModel::Replaced : TableModel::Kept);
+        showsSelection |= ShowRows();
     if ((iKinds & host::ChangeLayout) != 0)
         ShowExtent();
-    if (!showsSelection)
-        return;
-    ShowSelection();
-    if (MayHaveLostLines(iKinds) && !_isSelecting)
-        _view->BringSelectionIntoSight();
+    if (showsSelection)
+        ShowSelection();
 }
 
-// Removed lines take their selection along, so lines that are selected were not filled in anew, or were
-// selected anew, which brings them into sight by itself.
-bool TablePeer::IsRefilled(unsigned int iKinds) const {
-    return MayHaveLostLines(iKinds) && _list.GetSelectCount() == 0 && !_isUnselecting;
+// Rows that were filled in anew are shown from the top, unless some of them are selected.
+bool TablePeer::ShowRows() {
+    const int clearings = host::Inspector::Clearings(_list);
+    const bool isRefilled = clearings != _clearings;
+    _clearings = clearings;
+    if (isRefilled && _list.GetSelectCount() == 0)
+        _view->scrollToTop();
+    return _view->Follow(isRefilled ? TableModel::Replaced : TableModel::Kept);
 }
 
 void TablePeer::ShowExtent() {
@@ -69,17 +59,10 @@ void TablePeer::ShowSelection() {
 }
 
 void TablePeer::Select(const std::vector<int>& iRows) {
-    if (Dialog() == nullptr)
-        return;
-    const QScopedValueRollback<bool> selecting(_isSelecting, true);
-    const QScopedValueRollback<bool> unselecting(_isUnselecting, iRows.empty());
     Perform([this, &iRows] { return host::DialogUser::Select(_list, iRows); });
 }
 
 void TablePeer::Activate(int iRow, int iColumn) {
-    if (Dialog() == nullptr)
-        return;
-    const QScopedValueRollback<bool> selecting(_isSelecting, true);
     Perform([this, iRow, iColumn] { return host::DialogUser::Activate(_list, iRow, iColumn); });
 }
 

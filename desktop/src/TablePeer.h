@@ -24,7 +24,8 @@ class TablePeer : public Peer {
     void ShowState(unsigned int iKinds) override;
 
   private:
-    bool IsRefilled(unsigned int iKinds) const;
+    // True when no row is shown as selected any more.
+    bool ShowRows();
     void ShowExtent();
     void ShowSelection();
     void Select(const std::vector<int>& iRows);
@@ -33,8 +34,7 @@ class TablePeer : public Peer {
     CATDlgMultiList& _list;
     TableView* _view;
     TableModel* _rows;
-    bool _isSelecting = false;   // the person
-    bool _isUnselecting = false; // the person, the last row that was selected
+    int _clearings; // of the list when its rows were last shown
 };
 
 } // namespace desktop

@@ -70,17 +70,14 @@ void TableView::Show(TableModel& ioModel, bool iSelectsMany) {
 bool TableView::Follow(TableModel::Fate iFate) {
     const QScopedValueRollback<bool> showing(_isShowing, true);
     const int columnsBefore = _model->columnCount();
-    const int rowsBefore = _model->rowCount();
     const bool hadTitles = _model->HasTitles();
     if (!_model->Follow(iFate))
-        return _model->rowCount() < rowsBefore;
+        return false;
     if (_model->columnCount() < columnsBefore || _model->HasTitles() != hadTitles)
         _header->ForgetGivenWidths();
     selectionModel()->clearSelection(); // which does not reach into new columns
     ShowHeader();
     MeasureColumns();
-    if (iFate == TableModel::Replaced)
-        scrollToTop();
     return true;
 }
 
@@ -127,12 +124,7 @@ void TableView::SetExtent(const Extent& iExtent) {
 }
 
 QSize TableView::sizeHint() const {
-    const int asked = _extent.width * fontMetrics().averageCharWidth();
-    const int columns = _extent.columns > 0 ? _header->NaturalWidth(_extent.columns)
-                        : _extent.width > 0 ? 0
-                                            : _header->NaturalWidth();
-    const int widest = screen()->availableSize().width() * 3 / 4;
-    const int width = std::max(asked, std::min(columns, widest));
+    const int width = WidthOfColumns();
     QSize size = SizeOf(_extent.rows > 0 ? _extent.rows : rowsByDefault, width);
     if (_header->NaturalWidth() > width)
         size.rheight() += horizontalScrollBar()->sizeHint().height();
@@ -234,13 +226,18 @@ void TableView::changeEvent(QEvent* iEvent) {
     MeasureColumns();
 }
 
+void TableView::currentChanged(const QModelIndex& iCurrent, const QModelIndex& iBefore) {
+    QTableView::currentChanged(iCurrent, iBefore);
+    if (iCurrent.isValid())
+        _column = iCurrent.column();
+}
+
 // Home and End are for the rows, in the column that is current.
 QModelIndex TableView::moveCursor(CursorAction iAction, Qt::KeyboardModifiers iModifiers) {
-    const int column = std::max(0, currentIndex().column());
     if (iAction == MoveHome)
-        return _model->index(0, column);
+        return _model->index(0, CurrentColumn());
     if (iAction == MoveEnd)
-        return _model->index(_model->rowCount() - 1, column);
+        return _model->index(_model->rowCount() - 1, CurrentColumn());
     return QTableView::moveCursor(iAction, iModifiers);
 }
 
@@ -311,9 +308,12 @@ void TableView::CopySelected() const {
 // Without scrolling, and without a word about the selection.
 void TableView::SetCurrentRow(int iRow) {
     setAutoScroll(false);
-    selectionModel()->setCurrentIndex(_model->index(iRow, std::max(0, currentIndex().column())),
-                                      QItemSelectionModel::NoUpdate);
+    selectionModel()->setCurrentIndex(_model->index(iRow, CurrentColumn()), QItemSelectionModel::NoUpdate);
     setAutoScroll(true);
+}
+
+int TableView::CurrentColumn() const {
+    return std::min(_column, _model->columnCount() - 1);
 }
 
 void TableView::ShowHeader() {
@@ -348,6 +348,17 @@ int TableView::WidthOfTexts(int iColumn, int iLongest) const {
         widest = std::max(widest, fontMetrics().horizontalAdvance(text));
     }
     return std::min(widest, iLongest);
+}
+
+// As many as were asked for, or all of them unless a width was asked for instead.
+int TableView::WidthOfColumns() const {
+    const int asked = _extent.width * fontMetrics().averageCharWidth();
+    if (asked > 0 && _extent.columns == 0)
+        return asked;
+    const int natural =
+        _extent.columns > 0 ? _header->NaturalWidth(_extent.columns) : _header->NaturalWidth();
+    const int widest = screen()->availableSize().width() * 3 / 4;
+    return std::max(asked, std::min(natural, widest));
 }
 
 QSize TableView::SizeOf(int iRows, int iWidth) const {

@@ -25,13 +25,11 @@ class TableView : public QTableView {
 
     // iModel is not owned.
     void Show(TableModel& ioModel, bool iSelectsMany);
-    // Takes over the rows of the host; replaced ones are shown from the top. True when the selection has to
-    // be shown again.
+    // Takes over the rows of the host. True when no row is shown as selected any more.
     bool Follow(TableModel::Fate iFate);
-    // Rows that are there, in ascending order.
+    // Rows that are there, in ascending order. Scrolls to one of them when they are others than before,
+    // unless one is in sight.
     void ShowSelected(const std::vector<int>& iRows);
-    // Scrolls to a selected row unless one is in sight.
-    void BringSelectionIntoSight();
 
     // As it was asked for: rows, characters, columns; 0 for what was not.
     struct Extent {
@@ -55,6 +53,7 @@ class TableView : public QTableView {
     void contextMenuEvent(QContextMenuEvent* iEvent) override;
     void resizeEvent(QResizeEvent* iEvent) override;
     void changeEvent(QEvent* iEvent) override;
+    void currentChanged(const QModelIndex& iCurrent, const QModelIndex& iBefore) override;
     QModelIndex moveCursor(CursorAction iAction, Qt::KeyboardModifiers iModifiers) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& iIndex,
                                                          const QEvent* iEvent) const override;
@@ -64,19 +63,23 @@ class TableView : public QTableView {
     std::vector<int> SelectedRows() const;
     bool IsSelected(int iRow) const;
     bool IsInSight(int iRow) const;
+    void BringSelectionIntoSight();
     void PassSelectionOn();
     void CopySelected() const;
     void SetCurrentRow(int iRow);
+    int CurrentColumn() const;
     void ShowHeader();
     void ShowRowHeight();
     void MeasureColumns();
     int WidthOfTexts(int iColumn, int iLongest) const; // in pixels, at most iLongest
+    int WidthOfColumns() const;                        // of those that are to be in sight, in pixels
     QSize SizeOf(int iRows, int iWidth) const;
 
     Wishes _wishes;
     TableModel* _model = nullptr; // not owned
     ColumnHeader* _header;
     Extent _extent;
+    int _column = 0;              // of the current cell; outlives the rows
     int _pressedRow = -1;         // by the left button, until the next press
     bool _isPressed = false;      // on a row, by the left button
     bool _isShowing = false;      // what the host holds, so that changes are no person's doing

@@ -1,3 +1,4 @@
+#include "CATDlgCheckButton.h"
 #include "CATDlgCombo.h"
 #include "CATDlgContainer.h"
 #include "CATDlgEditor.h"
@@ -6,6 +7,7 @@
 #include "CATDlgPushButton.h"
 #include "DesktopFixture.h"
 
+#include <QtGui/QFont>
 #include <QtWidgets/QGroupBox>
 
 namespace desktop_test {
@@ -149,6 +151,18 @@ TEST_F(LayoutTest, FieldsAndButtonsInARowHaveOneHeight) {
     EXPECT_EQ(PlaceOf(editor).height(), PlaceOf(*combo).height());
     EXPECT_EQ(PlaceOf(editor).height(), PlaceOf(*button).height());
     EXPECT_EQ(PlaceOf(editor).top(), PlaceOf(*button).top());
+}
+
+TEST_F(LayoutTest, LinesOfDifferentHeightInARowShareTheirMiddle) {
+    auto* const label = new CATDlgLabel(&Dialog(), "DepthLab");
+    auto* const check = new CATDlgCheckButton(&Dialog(), "ThroughCkb");
+    Open();
+    QFont high = Shown(*label).font();
+    high.setPointSize(3 * high.pointSize());
+    Shown(*label).setFont(high);
+    Settle();
+    ASSERT_GT(PlaceOf(*label).height(), PlaceOf(*check).height() + 4);
+    EXPECT_NEAR(PlaceOf(*label).center().y(), PlaceOf(*check).center().y(), 1);
 }
 
 TEST_F(LayoutTest, AnArrangementThatTheProgramChangesIsShownAnew) {

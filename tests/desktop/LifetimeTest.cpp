@@ -1,19 +1,72 @@
+#include "CATDlgCheckButton.h"
 #include "CATDlgCombo.h"
 #include "CATDlgEditor.h"
 #include "CATDlgFrame.h"
+#include "CATDlgMultiList.h"
 #include "CATDlgPushButton.h"
 #include "DesktopFixture.h"
+#include "host/EventScope.h"
 
+#include <QtCore/QAbstractItemModel>
 #include <QtCore/QPointer>
 #include <QtTest/QTest>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
+
+#include <memory>
+#include <vector>
 
 namespace desktop_test {
 
 namespace {
 
-class LifetimeTest : public DesktopTest {};
+// Counts how often a widget or a part of it is drawn.
+class DrawingCounter : public QObject {
+  public:
+    explicit DrawingCounter(QWidget& ioWidget) {
+        ioWidget.installEventFilter(this);
+        for (QWidget* part : ioWidget.findChildren<QWidget*>())
+            part->installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* iEvent) override {
+        count += iEvent->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
+// Lets a widget and all its parts be drawn soon.
+void AskForDrawing(QWidget& ioWidget) {
+    ioWidget.update();
+    for (QWidget* part : ioWidget.findChildren<QWidget*>())
+        part->update();
+}
+
+class LifetimeTest : public DesktopTest {
+  protected:
+    template<class List>
+    List& Filled(CATDlgStyle iStyle) {
+        auto* const list = new List(&Dialog(), "TypeLst", iStyle);
+        for (const char* text : {"A", "B", "C"})
+            Append(*list, text);
+        return *list;
+    }
+    static void Append(CATDlgCombo& ioCombo, const char* iText) { ioCombo.SetLine(iText); }
+    static void Append(CATDlgMultiList& ioList, const char* iText) { ioList.SetColumnItem(0, iText); }
+
+    // One widget of each kind that reads its texts in the host as it is drawn, and others.
+    std::vector<CATDialog*> OneOfEach() {
+        Dialog().SetDefaultOrientation(Vertical);
+        return {&Filled<CATDlgCombo>(0),
+                &Filled<CATDlgCombo>(CATDlgCmbDropDown),
+                &Filled<CATDlgMultiList>(0),
+                new CATDlgEditor(&Dialog(), "LineEdt"),
+                new CATDlgEditor(&Dialog(), "TextEdt", CATDlgEdtMultiline),
+                new CATDlgCheckButton(&Dialog(), "Ckb"),
+                new CATDlgPushButton(new CATDlgFrame(&Dialog(), "Frm"), "Pbt")};
+    }
+};
 
 TEST_F(LifetimeTest, DialogsThatAreThereBeforeTheDesktopAreShownToo) {
     auto* const button = new CATDlgPushButton(&Dialog(), "NewPbt");
@@ -139,6 +192,76 @@ TEST_F(LifetimeTest, WhatTheProgramDestroysBetweenTwoEventsIsGoneBeforeTheNextDr
     Settle();
     Settle();
     EXPECT_EQ(Windows().WidgetOf(*combo), nullptr);
+}
+
+TEST_F(LifetimeTest, WhatIsDestroyedOutsideAnyEventIsDrawnNoMore) {
+    const std::vector<CATDialog*> widgets = OneOfEach();
+    Open();
+    for (CATDialog* const widget : widgets) {
+        SCOPED_TRACE(std::string(widget->IsA()) + " " + widget->GetName().ConvertToChar());
+        const QPointer<QWidget> shown(&Shown(*widget));
+        DrawingCounter drawings(*shown);
+        AskForDrawing(*shown);
+        Settle();
+        EXPECT_GT(drawings.count, 0) << "as long as it is there";
+        drawings.count = 0;
+        AskForDrawing(*shown);
+        delete widget;
+        EXPECT_FALSE(shown->isVisible());
+        QCoreApplication::processEvents();
+        EXPECT_EQ(drawings.count, 0);
+        Settle();
+        EXPECT_TRUE(shown.isNull());
+    }
+}
+
+TEST_F(LifetimeTest, AListThatIsBeingDestroyedIsEmptyAtOnce) {
+    const host::EventScope event; // so that nothing is delivered meanwhile
+    CATDlgCombo& lines = Filled<CATDlgCombo>(0);
+    CATDlgCombo& choice = Filled<CATDlgCombo>(CATDlgCmbDropDown);
+    CATDlgMultiList& table = Filled<CATDlgMultiList>(0);
+    Dialog().SetVisibility(CATDlgShow);
+    host::EventScope::Flush();
+    const QAbstractItemModel* const models[] = {ShownAs<QAbstractItemView>(lines).model(),
+                                                ShownAs<QComboBox>(choice).model(),
+                                                ShownAs<QAbstractItemView>(table).model()};
+    CATDialog* const widgets[] = {&lines, &choice, &table};
+    for (std::size_t list = 0; list < std::size(widgets); ++list) {
+        EXPECT_EQ(models[list]->rowCount(), 3);
+        delete widgets[list];
+        EXPECT_EQ(models[list]->rowCount(), 0);
+    }
+}
+
+TEST_F(LifetimeTest, AWidgetMayTakeTheAddressOfOneThatIsGone) {
+    auto* const before = new CATDlgEditor(&Dialog(), "NameEdt");
+    Open();
+    const QPointer<QWidget> shown(&Shown(*before));
+    {
+        const host::EventScope event;
+        before->~CATDlgEditor();
+        ::new (static_cast<void*>(before)) CATDlgEditor(&Dialog(), "PitchEdt");
+        EXPECT_EQ(Windows().WidgetOf(*before), nullptr) << "the new one is not shown yet";
+    }
+    EXPECT_EQ(Utf8(Shown(*before).objectName()), "PitchEdt");
+    Settle();
+    EXPECT_TRUE(shown.isNull());
+    EXPECT_TRUE(Shown(*before).isVisible());
+}
+
+TEST_F(LifetimeTest, AFieldThatGoesPassesNoTextOnAndLosesNoneOfAnother) {
+    auto* const typed = new CATDlgEditor(&Dialog(), "NameEdt");
+    auto* const other = new CATDlgEditor(&Dialog(), "PitchEdt");
+    Open();
+    Shown(*typed).setFocus();
+    QTest::keyClicks(&Shown(*typed), QStringLiteral("M8"));
+    delete other;
+    Settle();
+    EXPECT_EQ(Utf8(ShownAs<QLineEdit>(*typed).text()), "M8") << "still being typed";
+    EXPECT_EQ(Command().TakeClasses(), Classes());
+    delete typed;
+    Settle();
+    EXPECT_EQ(Command().TakeClasses(), Classes());
 }
 
 TEST_F(LifetimeTest, ATextThatIsBeingTypedIsLostWithItsWindowWithoutHarm) {

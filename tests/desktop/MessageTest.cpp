@@ -3,6 +3,7 @@
 #include "CATDlgPushButton.h"
 #include "DesktopFixture.h"
 
+#include <QtCore/QPointer>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMessageBox>
@@ -109,6 +110,21 @@ TEST_F(MessageTest, KeepsTheTextThatIsBeingTypedWhileItWaits) {
     QTest::keyClick(&Shown(*editor), Qt::Key_Return);
     EXPECT_STREQ(editor->GetText().ConvertToChar(), "M8");
     TakeMessages();
+}
+
+TEST_F(MessageTest, EndsWithTheWindowItStandsBefore) {
+    CATDlgNotify* const notify = new CATDlgNotify(MainWindow(), "Error", CATDlgNfyError);
+    Open();
+    const QPointer<QWidget> window(&Window());
+    bool wasWaiting = false;
+    DoSoon([this, &wasWaiting] {
+        wasWaiting = QApplication::activeModalWidget() != nullptr;
+        delete &Dialog();
+    });
+    notify->DisplayBlocked("Something else.", "Note");
+    EXPECT_TRUE(wasWaiting);
+    EXPECT_TRUE(window.isNull());
+    EXPECT_EQ(TakeMessages().size(), 1U);
 }
 
 TEST_F(MessageTest, MayComeUpFromTheTextThatIsBeingLeft) {

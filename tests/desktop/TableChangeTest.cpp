@@ -127,6 +127,61 @@ TEST_F(TableChangeTest, ARefillShowsTheRowThatIsSelected) {
     EXPECT_EQ(ShownSelection(), std::vector<int>({45}));
 }
 
+TEST_F(TableChangeTest, ARefillThatSelectsARowInSightDoesNotScroll) {
+    AddRows(50);
+    Select({21});
+    Open();
+    Table().verticalScrollBar()->setValue(20);
+    Refill(60);
+    Select({22});
+    Settle();
+    EXPECT_EQ(Table().model()->rowCount(), 60);
+    EXPECT_EQ(ShownSelection(), std::vector<int>({22}));
+    EXPECT_EQ(TopRow(), 20);
+}
+
+TEST_F(TableChangeTest, ARefillKeepsTheColumnOfTheCurrentCell) {
+    AddRows(10);
+    Open();
+    Click(4, 1);
+    Refill(10);
+    Select({5});
+    Settle();
+    EXPECT_EQ(Table().currentIndex(), Table().model()->index(5, 1));
+    PressKey(Qt::Key_Return);
+    EXPECT_EQ(List().GetActivatedColumn(), 1);
+}
+
+TEST_F(TableChangeTest, ARemovedRowScrollsNothingWhetherItWasSelectedOrNot) {
+    AddRows(50);
+    Select({3});
+    Open();
+    Table().verticalScrollBar()->setValue(20);
+    List().ClearLine(30);
+    Settle();
+    EXPECT_EQ(Table().model()->rowCount(), 49);
+    EXPECT_EQ(TopRow(), 20);
+    EXPECT_EQ(ShownSelection(), std::vector<int>({3}));
+    List().ClearLine(3);
+    Settle();
+    EXPECT_EQ(Table().model()->rowCount(), 48);
+    EXPECT_EQ(TopRow(), 20);
+    EXPECT_EQ(ShownSelection(), std::vector<int>());
+}
+
+TEST_F(TableChangeTest, ACellThatIsChangedAsTheSelectionIsClearedScrollsNothing) {
+    AddRows(50);
+    Select({22});
+    Open();
+    Table().verticalScrollBar()->setValue(20);
+    List().SetColumnItem(1, "changed", 22, CATDlgDataModify);
+    List().ClearSelect();
+    Settle();
+    EXPECT_EQ(ShownCell(22, 1), "changed");
+    EXPECT_EQ(ShownSelection(), std::vector<int>());
+    EXPECT_EQ(TopRow(), 20);
+}
+
 TEST_F(TableChangeTest, ADialogThatOpensShowsTheRowThatIsSelected) {
     AddRows(50);
     Select({3});

@@ -28,7 +28,7 @@ class PeerTree;
 //
 // Made after the QApplication and the host's application, and destroyed before them. Dialogs that are there
 // already are shown too. What a person does reaches the program through host::DialogUser alone; what the
-// program changes is shown at the end of the event in which it does.
+// program changes is shown at the end of the event in which it does; what it destroys goes at once.
 class Desktop final : public host::DialogObserver, public host::MessageFrontEnd {
   public:
     Desktop();
@@ -49,6 +49,7 @@ class Desktop final : public host::DialogObserver, public host::MessageFrontEnd 
 
     // host::DialogObserver
     void OnChanges(const host::DialogChanges& iChanges) override;
+    void OnDestroyed(const CATDialog& iWidget) override;
     void OnIdleNeeded() override;
 
     // host::MessageFrontEnd: waits in an event loop of its own until the person has answered.

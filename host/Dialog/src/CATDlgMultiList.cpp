@@ -24,7 +24,9 @@ CATDlgMultiList::CATDlgMultiList(const CATDlgMultiList& iOther)
 
 CATDlgMultiList& CATDlgMultiList::operator=(const CATDlgMultiList& iOther) {
     CATDlgControl::operator=(iOther);
+    const int clearings = _state->clearings + 1;
     *_state = *iOther._state;
+    _state->clearings = clearings;
     NoteChange(host::ChangeContent | host::ChangeSelection);
     return *this;
 }
@@ -92,6 +94,7 @@ void CATDlgMultiList::ClearLine(int iLine) {
     if (iLine == -1) {
         _state->cells.Clear();
         selected.clear();
+        ++_state->clearings;
     } else if (iLine >= 0 && iLine < GetLineCount()) {
         _state->cells.RemoveRow(iLine);
         selected.erase(std::remove(selected.begin(), selected.end(), iLine), selected.end());

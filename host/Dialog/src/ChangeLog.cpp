@@ -33,6 +33,15 @@ bool IsListening(const DialogObserver& iObserver) {
     return std::find(observers.begin(), observers.end(), &iObserver) != observers.end();
 }
 
+// An observer may take itself or another one away meanwhile.
+template<class Call>
+void ForEachObserver(const Call& iCall) {
+    const std::vector<DialogObserver*> observers = Current().observers;
+    for (DialogObserver* observer : observers)
+        if (IsListening(*observer))
+            iCall(*observer);
+}
+
 } // namespace
 
 void ChangeLog::NoteCreation(CATDialog& ioWidget) {
@@ -50,6 +59,7 @@ void ChangeLog::NoteDestruction(const CATDialog& iWidget) {
     }
     if (log.fresh.erase(&iWidget) == 0) {
         log.changes.destroyed.push_back(&iWidget);
+        ForEachObserver([&iWidget](DialogObserver& ioObserver) { ioObserver.OnDestroyed(iWidget); });
     } else {
         std::vector<CATDialog*>& created = log.changes.created;
         created.erase(std::next(std::find(created.rbegin(), created.rend(), &iWidget)).base());
@@ -95,10 +105,7 @@ void ChangeLog::Deliver() {
         changed.erase(std::remove_if(changed.begin(), changed.end(),
                                      [](const auto& iChange) { return iChange.first == nullptr; }),
                       changed.end());
-        const std::vector<DialogObserver*> observers = log.observers;
-        for (DialogObserver* observer : observers)
-            if (IsListening(*observer))
-                observer->OnChanges(changes);
+        ForEachObserver([&changes](DialogObserver& ioObserver) { ioObserver.OnChanges(changes); });
     }
 }
 
@@ -118,9 +125,7 @@ void ChangeLog::AskForIdle() {
     if (EventScope::IsOpen() || log.isIdleAskedFor)
         return;
     log.isIdleAskedFor = true;
-    const std::vector<DialogObserver*> observers = log.observers;
-    for (DialogObserver* observer : observers)
-        observer->OnIdleNeeded();
+    ForEachObserver([](DialogObserver& ioObserver) { ioObserver.OnIdleNeeded(); });
 }
 
 void DialogObserver::Add(DialogObserver& ioObserver) {

@@ -273,6 +273,10 @@ bool Inspector::IsMultiSelection(const CATDlgMultiList& iList) {
     return (Style(iList) & CATDlgLstMultisel) != 0;
 }
 
+int Inspector::Clearings(const CATDlgMultiList& iList) {
+    return iList._state->clearings;
+}
+
 std::size_t Inspector::BytesOfLines(const CATDlgMultiList& iList) {
     return iList._state->cells.Bytes();
 }

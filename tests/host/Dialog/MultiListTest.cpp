@@ -1,6 +1,9 @@
 #include "CATDlgMultiList.h"
 
+#include "CATError.h"
+#include "CATErrorMacros.h"
 #include "DialogTest.h"
+#include "host/FaultPoints.h"
 #include "host/Inspector.h"
 
 #include <climits>
@@ -187,6 +190,22 @@ TEST_F(CATDlgMultiListTest, ClearsAllLinesAndTheSelectionButNotTheColumnsForMinu
     EXPECT_EQ(list.GetColumnCount(), 1);
     Append(list, {"B"});
     EXPECT_EQ(Rows(list), (std::vector<Texts>{{"B"}}));
+}
+
+TEST_F(CATDlgMultiListTest, CountsHowOftenAllItsLinesWereTakenAway) {
+    for (const char* text : {"A", "B"})
+        Append(list, {text});
+    list.ClearLine(0);
+    list.ClearLine(0);
+    list.ClearLine(0);
+    list.ClearSelect();
+    EXPECT_EQ(Inspector::Clearings(list), 0);
+    list.ClearLine(-1);
+    list.ClearLine();
+    EXPECT_EQ(Inspector::Clearings(list), 2) << "whether there were any or not";
+    list = several;
+    EXPECT_EQ(Inspector::Clearings(list), 3) << "those of the other list have come in their place";
+    EXPECT_EQ(Inspector::Clearings(several), 0);
 }
 
 TEST_F(CATDlgMultiListTest, ClearsNoLineThatIsNotThere) {
@@ -406,6 +425,31 @@ TEST_F(CATDlgMultiListTest, IsNotKeptFromSelectingItsLineAgain) {
     EXPECT_EQ(Result(DialogUser::Select(list, {0})), "done");
     EXPECT_EQ(Result(DialogUser::Select(list, {0})), "done");
     EXPECT_EQ(dialog->TakeHeard(), (Texts{"ListSelect ParameterMul", "ListSelect ParameterMul"}));
+}
+
+TEST_F(CATDlgMultiListTest, RaisesAnErrorWhenACellIsMadeToFail) {
+    SetTitles(list, {"Name", "Value"});
+    Append(list, {"D", "10mm"});
+    const auto raisedBy = [](const std::function<void()>& iWrite) {
+        std::string raised;
+        host::FaultPoints::FailCall(1, "list cell");
+        CATTry {
+            iWrite();
+        }
+        CATCatch(CATError, error) {
+            raised = error->GetMsgId();
+            error->Release();
+        }
+        CATEndTry;
+        host::FaultPoints::Stop();
+        return raised;
+    };
+    EXPECT_EQ(raisedBy([this] { list.SetColumnItem(1, "12mm", 0, CATDlgDataModify); }), "ListCell");
+    EXPECT_EQ(raisedBy([this] { list.SetColumnItem(0, "T"); }), "ListCell");
+    EXPECT_EQ(Rows(list), std::vector<Texts>({{"D", "10mm"}})) << "neither written nor appended";
+    list.SetColumnItem(1, "12mm", 0, CATDlgDataModify);
+    list.SetColumnItem(0, "T");
+    EXPECT_EQ(Rows(list), std::vector<Texts>({{"D", "12mm"}, {"T", ""}})) << "the next calls work";
 }
 
 TEST_F(CATDlgMultiListTest, TakesLittleMoreMemoryThanItsTexts) {

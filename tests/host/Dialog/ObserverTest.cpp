@@ -50,14 +50,21 @@ class Watcher : public DialogObserver {
         if (onDelivery)
             onDelivery();
     }
+    void OnDestroyed(const CATDialog& iWidget) override {
+        leaving.push_back(&iWidget);
+        if (onDestruction)
+            onDestruction();
+    }
     void OnIdleNeeded() override { ++idleRequests; }
 
     Texts Take() { return std::exchange(deliveries, Texts()); }
 
     Texts deliveries;
-    std::vector<const CATDialog*> destroyed;
+    std::vector<const CATDialog*> destroyed; // as deliveries name them
+    std::vector<const CATDialog*> leaving;   // as they go
     int idleRequests = 0;
     std::function<void()> onDelivery;
+    std::function<void()> onDestruction;
 };
 
 class DialogObserverTest : public DialogTest {
@@ -75,6 +82,7 @@ class DialogObserverTest : public DialogTest {
 
     void TearDown() override {
         watcher.onDelivery = nullptr;
+        watcher.onDestruction = nullptr;
         DialogTest::TearDown();
     }
 
@@ -124,6 +132,32 @@ TEST_F(DialogObserverTest, HearsOfDestroyedWidgetsAndNotOfTheirChanges) {
     EXPECT_EQ(watcher.destroyed, std::vector<const CATDialog*>{address});
 }
 
+TEST_F(DialogObserverTest, HearsOfADestructionAtOnceInsideAndOutsideAnEvent) {
+    typedef std::vector<const CATDialog*> Widgets;
+    const CATDialog* const child = &MakeIn<CATDlgLabel>(frame, "Lab");
+    EventScope::RunIdle();
+    watcher.Take();
+    EXPECT_EQ(During([this, child] {
+                  delete &frame;
+                  EXPECT_EQ(watcher.leaving, (Widgets{child, &frame}));
+              }),
+              Texts{"-2"});
+    watcher.onDestruction = [this] { EXPECT_EQ(watcher.idleRequests, 1) << "that of the label"; };
+    delete &button;
+    EXPECT_EQ(watcher.leaving, (Widgets{child, &frame, &button}));
+    EXPECT_EQ(watcher.idleRequests, 2) << "and then asks to be delivered";
+    EventScope::RunIdle();
+    EXPECT_EQ(watcher.destroyed, watcher.leaving);
+}
+
+TEST_F(DialogObserverTest, MayBeRemovedByAnotherObserverDuringADestruction) {
+    auto second = std::make_unique<Watcher>();
+    watcher.onDestruction = [&second] { second.reset(); };
+    delete &frame;
+    EXPECT_EQ(watcher.leaving.size(), 1U);
+    EXPECT_EQ(second, nullptr);
+}
+
 TEST_F(DialogObserverTest, DoesNotHearOfWhatCameAndWentInOneEvent) {
     EXPECT_EQ(During([this] {
                   CATDlgFrame& brief = Make<CATDlgFrame>("Brief");
@@ -131,6 +165,7 @@ TEST_F(DialogObserverTest, DoesNotHearOfWhatCameAndWentInOneEvent) {
                   delete &brief;
               }),
               Texts());
+    EXPECT_TRUE(watcher.leaving.empty());
 }
 
 TEST_F(DialogObserverTest, HearsOfADoomedWidgetFirstAsChangedThenAsDestroyed) {

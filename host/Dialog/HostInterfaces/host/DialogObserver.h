@@ -41,6 +41,9 @@ class DialogObserver {
     virtual ~DialogObserver() = default;
 
     virtual void OnChanges(const DialogChanges& iChanges) = 0;
+    // Called at once for each widget that is being destroyed and that a later delivery names as such. Only
+    // its address may be used, and no widget may be changed.
+    virtual void OnDestroyed(const CATDialog&) {}
     // Changes are waiting outside any event, so nothing delivers them by itself. The observer sees to it that
     // EventScope::RunIdle is called soon.
     virtual void OnIdleNeeded() {}

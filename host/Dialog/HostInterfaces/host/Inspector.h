@@ -96,6 +96,8 @@ class Inspector {
     static int VisibleColumnCount(const CATDlgMultiList& iList);
     static int ColumnTextWidth(const CATDlgMultiList& iList, int iColumn);
     static bool IsMultiSelection(const CATDlgMultiList& iList);
+    // How often all lines of a list were taken away together; the lines that are there came after that.
+    static int Clearings(const CATDlgMultiList& iList);
     // Memory that the lines of a list take, in bytes.
     static std::size_t BytesOfLines(const CATDlgMultiList& iList);
 

@@ -69,12 +69,20 @@ const engineering::Part& CommandTest::SamplePart() {
 }
 
 bool CommandTest::Start(FeatureCommand::Mode iMode, const engineering::FeatureCatalogue& iCatalogue) {
+    Prepare(iMode, iCatalogue);
+    return StartPrepared();
+}
+
+void CommandTest::Prepare(FeatureCommand::Mode iMode, const engineering::FeatureCatalogue& iCatalogue) {
     _application.reset();
     _recorder.reset();
     _command.emplace(iCatalogue, SamplePart(), iMode);
     _recorder.emplace(&*_command, &_reader);
     _application.emplace();
     host::Application::SetActiveCommand(&*_recorder);
+}
+
+bool CommandTest::StartPrepared() {
     const bool isStarted = _command->Start();
     host::EventScope::RunIdle();
     return isStarted;

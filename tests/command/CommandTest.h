@@ -38,6 +38,10 @@ class CommandTest : public support::AuditedTest {
     // Opens the dialog. Without a catalogue it is the shipped one.
     [[nodiscard]] bool Start(FeatureCommand::Mode iMode = FeatureCommand::Mode::Parameters,
                              const engineering::FeatureCatalogue& iCatalogue = Shipped());
+    // The same in two steps, for what is to hear everything from the start on.
+    void Prepare(FeatureCommand::Mode iMode, const engineering::FeatureCatalogue& iCatalogue = Shipped());
+    [[nodiscard]] bool StartPrepared();
+    session::NotificationRecorder& Recorder() { return *_recorder; }
     FeatureCommand& Command() { return *_command; }
 
     static host::Outcome ChooseGroup(int iLine);

@@ -4,7 +4,7 @@
 //
 //   InputSelection inputs(part);
 //   inputs.UseType(&type);            // its first input waits
-//   inputs.Pick("Hole centre 1");     // the next input waits
+//   inputs.Pick("Top face hole 1");     // the next input waits
 //   inputs.Await(1);                  // the first one again
 
 #include "CATUnicodeString.h"

@@ -2,7 +2,7 @@
 
 // The steps that the feature command adds to the language of sessions.
 //
-//   {"do":"pick","element":"Hole centre 1"}          an element of the part, as picked in the 3D view
+//   {"do":"pick","element":"Top face hole 1"}          an element of the part, as picked in the 3D view
 //   {"do":"set","parameter":"DH","text":"7 mm"}      a value typed for a parameter of the feature
 
 #include "session/StepHandler.h"

@@ -8,6 +8,7 @@
 #include "DesktopFixture.h"
 
 #include <QtGui/QFont>
+#include <QtTest/QTest>
 #include <QtWidgets/QGroupBox>
 
 namespace desktop_test {
@@ -160,8 +161,7 @@ TEST_F(LayoutTest, LinesOfDifferentHeightInARowShareTheirMiddle) {
     QFont high = Shown(*label).font();
     high.setPointSize(3 * high.pointSize());
     Shown(*label).setFont(high);
-    Settle();
-    ASSERT_GT(PlaceOf(*label).height(), PlaceOf(*check).height() + 4);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return PlaceOf(*label).height() > PlaceOf(*check).height() + 4; }));
     EXPECT_NEAR(PlaceOf(*label).center().y(), PlaceOf(*check).center().y(), 1);
 }
 

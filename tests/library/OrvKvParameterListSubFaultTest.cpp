@@ -202,18 +202,28 @@ TEST_F(OrvKvParameterListSubFaultTest, AParameterThatRaisesWhileItsChangeIsShown
     EXPECT_EQ(TakeReported(), Reported({"changed M"}));
 }
 
-TEST_F(OrvKvParameterListSubFaultTest, AParameterMayListOtherParametersWhileItsValueIsRead) {
-    const ParameterLists others = ParameterLists::Of({{.parameter = _depth, .name = "T"}});
-    _middle->onShow = [&] {
-        _middle->onShow = nullptr;
-        others.HandTo(Panel());
-    };
-    SetParameters(Around(_middle));
-    SetParameters(Around(_depth));
-    EXPECT_EQ(ShownRows(), Rows({"|D|10mm|+0.1/-0.05|Diameter", "|M|20mm|| ", "|T|20mm||Depth"}));
-    EXPECT_EQ(SubscriptionsOn(_diameter), 2);
+TEST_F(OrvKvParameterListSubFaultTest, OtherParametersListedWhileAValueIsReadForItsRowTakeTheirPlace) {
+    const ParameterLists others = ParameterLists::Of({{.parameter = _depth, .name = "T"},
+                                                      {.parameter = _depth, .name = "U"},
+                                                      {.parameter = _depth, .name = "V"}});
+    _middle->onShow = [&] { EXPECT_EQ(others.HandTo(Panel()), S_OK); };
+    EXPECT_EQ(SetParameters(Around(_middle)).result, "S_OK");
+    EXPECT_EQ(ShownRows(), Rows({"|T|20mm||Depth", "|U|20mm|| ", "|V|20mm|| "}));
+    EXPECT_EQ(List().GetVisibility(), CATDlgShow);
+    EXPECT_EQ(SubscriptionsOn(_diameter), 0);
     EXPECT_EQ(SubscriptionsOn(_middle), 0);
-    EXPECT_EQ(SubscriptionsOn(_depth), 4);
+    EXPECT_EQ(SubscriptionsOn(_depth), 6);
+}
+
+TEST_F(OrvKvParameterListSubFaultTest, OtherParametersListedWhileAChangedValueIsReadTakeTheirPlace) {
+    const ParameterLists others = ParameterLists::Of({{.parameter = _depth, .name = "T"}});
+    SetParameters({{.parameter = _middle, .name = "M"}});
+    _middle->onShow = [&] { EXPECT_EQ(others.HandTo(Panel()), S_OK); };
+    Change(CATICkeParm_var(_middle), 16);
+    EXPECT_EQ(ShownRows(), Rows({"|T|20mm||Depth"}));
+    EXPECT_EQ(TakeReported(), Reported({"changed M"}));
+    EXPECT_EQ(SubscriptionsOn(_middle), 0);
+    EXPECT_EQ(SubscriptionsOn(_depth), 2);
 }
 
 TEST_F(OrvKvParameterListSubFaultTest, AFailingCellBecomesTheFailingResultOfAFit) {

@@ -226,8 +226,9 @@ void OrvKvParameterListSub::OnParameterValueChanged(const char*, void*, CATNotif
         return;
     const CATString name = _Names[position];
     const bool isShown = OrvKvGuard::RunQuietly("OrvKvParameterListSub::OnParameterValueChanged", [&] {
+        const int refill = _Refills;
         const CATUnicodeString value = ShownValue(_Parameters[position], _ValueEditable[position] >= 1);
-        if (!HasCells())
+        if (_Refills != refill || !HasCells())
             return;
         SetItem(row, ValueColumn, value);
         SetItem(row, MarkerColumn, MarkerOf(name));
@@ -292,7 +293,7 @@ void OrvKvParameterListSub::Refill(const CATListValCATUnicodeString& iTolerances
         return; // who heard that the list is hidden has filled it with other parameters already
     _pParameterMul->ClearLine(OrvKvAllLines);
     int row = 0;
-    for (int position = 1; position <= _Parameters.Size(); ++position)
+    for (int position = 1; _Refills == refill && position <= _Parameters.Size(); ++position)
         if (HasRow(position))
             AppendRow(++row, position, iTolerances[position]);
     _pParameterMul->SetVisibility(CATDlgShow);
@@ -306,8 +307,13 @@ void OrvKvParameterListSub::AppendRow(int iRow, int iPosition, const CATUnicodeS
     int& firstRow = _FirstRows[_FirstPositions[iPosition]];
     if (firstRow == NoRow)
         firstRow = iRow;
-    if (_ValueShown[iPosition] >= 1)
-        _pParameterMul->SetColumnItem(ValueColumn, ShownValue(parameter, _ValueEditable[iPosition] != 0));
+    if (_ValueShown[iPosition] >= 1) {
+        const int refill = _Refills;
+        const CATUnicodeString value = ShownValue(parameter, _ValueEditable[iPosition] != 0);
+        if (_Refills != refill)
+            return; // who was asked for the value has filled the list with other parameters
+        _pParameterMul->SetColumnItem(ValueColumn, value);
+    }
     if (_NoToleranceColumn == 0)
         _pParameterMul->SetColumnItem(DescriptionColumn, DescriptionOf(name));
     if (_ToleranceShown[iPosition] >= 1)

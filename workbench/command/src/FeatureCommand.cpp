@@ -237,7 +237,7 @@ host::Outcome FeatureCommand::SetValue(const std::string& parameter, const std::
     if (!found)
         return host::Outcome::Refused(
             CommandText("NoSuchParameter", {CATUnicodeString(parameter.c_str())}).ConvertToUTF8());
-    const host::Outcome outcome = host::ParameterEntry::Type(*found, text);
+    host::Outcome outcome = host::ParameterEntry::Type(*found, text);
     if (outcome && _mode == Mode::Sets)
         ShowParameters();
     return outcome;
@@ -257,7 +257,7 @@ void FeatureCommand::OnInverted(CATNotification&) {
 host::Outcome FeatureCommand::Pick(const std::string& element) {
     if (_dialog == nullptr)
         return host::Outcome::Refused(CommandText("NoInputWaits").ConvertToUTF8());
-    const host::Outcome outcome = _inputs->Pick(element);
+    host::Outcome outcome = _inputs->Pick(element);
     if (outcome)
         ShowInputs();
     return outcome;

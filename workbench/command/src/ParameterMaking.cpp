@@ -60,7 +60,7 @@ CATICkeParm_var NewParameterFor(const engineering::Parameter& definition,
                                 const engineering::ParameterValue& entry) {
     if (!entry.value)
         return Parameters::NewString(definition.name.c_str(), NotTabulated());
-    const CATICkeParm_var parameter = NewParameter(definition);
+    CATICkeParm_var parameter = NewParameter(definition);
     if (!Write(parameter, *entry.value))
         return {};
     StoreLimits(parameter, entry.tolerance);

@@ -14,10 +14,6 @@ namespace {
 using engineering::ParameterValue;
 using engineering::Tolerance;
 
-bool IsSame(const ParameterValue& left, const ParameterValue& right) {
-    return left.value == right.value && left.tolerance == right.tolerance;
-}
-
 // Limits that the parameter itself has; none otherwise.
 Tolerance LimitsOf(const CATICkeParm_var& parameter) {
     const CATIParmTolerance_var limits(parameter);
@@ -64,7 +60,7 @@ void EditedFeature::OnChanged(CATCallbackEvent, void*, CATNotification*, CATSubs
 void EditedFeature::NoteModification(const Slot& slot) {
     if (!_modifications)
         return;
-    const bool isModified = !IsSame(Now(slot), slot.start);
+    const bool isModified = !engineering::SameValue(Now(slot), slot.start);
     _modifications->SetTemporarilyModified(slot.definition->name.c_str(), isModified ? 1 : 0);
 }
 
@@ -91,7 +87,7 @@ void EditedFeature::Change(Slot& ioSlot, const ParameterValue& entry) {
     ioSlot.isTabulated = entry.value.has_value();
     ioSlot.tolerance = entry.tolerance;
     const CATIParmEvents_var events(ioSlot.parameter);
-    if (IsSame(before, entry) || !events)
+    if (engineering::SameValue(before, entry) || !events)
         return NoteModification(ioSlot);
     if (before.tolerance != entry.tolerance) {
         StoreLimits(ioSlot.parameter, entry.tolerance);

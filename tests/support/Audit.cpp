@@ -9,6 +9,7 @@
 #include "host/MessageCatalogs.h"
 #include "host/Messages.h"
 #include "host/Misuse.h"
+#include "host/Preferences.h"
 #include "host/Trace.h"
 
 #include <limits>
@@ -69,6 +70,14 @@ bool AreFaultPointsArmed() {
     return host::FaultPoints::Passed() != before;
 }
 
+// What was stored in memory is no leftover: CleanUp forgets it.
+std::string PreferencesElsewhere(const std::string& iBefore) {
+    const std::string place = host::Preferences::Place();
+    if (place == iBefore)
+        return std::string();
+    return place.empty() ? "the preferences are withdrawn" : "the preferences are kept in " + place;
+}
+
 std::vector<std::string> MessageTexts() {
     std::vector<std::string> texts;
     for (const host::Message& message : host::Messages::Journal())
@@ -97,7 +106,7 @@ std::vector<std::string> Differences(std::map<std::string, int> iBefore,
 
 Audit::Audit()
     : _liveObjects(host::LiveObjects::CountByClass()), _language(host::MessageCatalogs::Language()),
-      _subscriptions(host::CommandInspection::Subscriptions()),
+      _preferences(host::Preferences::Place()), _subscriptions(host::CommandInspection::Subscriptions()),
       _analyseCallbacks(host::CommandInspection::AnalyseCallbacks()), _traceSinks(host::Trace::SinkCount()) {}
 
 void Audit::Allow(Leftover iLeftover, const std::string& iReason) {
@@ -111,6 +120,7 @@ std::vector<std::string> Audit::FindingsOfBody() const {
                    {Leftover::Language, language == _language ? "" : "the language is '" + language + "'"},
                    {Leftover::TraceLevels, Named("trace levels were lowered", SilencedChannels())},
                    {Leftover::FaultPoints, AreFaultPointsArmed() ? "fault points are armed" : ""},
+                   {Leftover::Preferences, PreferencesElsewhere(_preferences)},
                    {Leftover::Misuse, Named("misuses", host::Misuse::Recorded())},
                    {Leftover::MissingTexts, Named("missing texts", host::MessageCatalogs::Missing())},
                    {Leftover::Messages, Named("messages that nobody looked at", MessageTexts())}});
@@ -134,6 +144,7 @@ void Audit::CleanUp() {
     host::MessageCatalogs::Reset();
     host::CommandInspection::Reset();
     host::Trace::Reset();
+    host::Preferences::KeepInMemory();
 }
 
 std::vector<std::string> Audit::Report(const std::vector<Finding>& iFindings) const {

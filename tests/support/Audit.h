@@ -14,6 +14,7 @@ enum class Leftover {
     Language,
     TraceLevels,
     FaultPoints,
+    Preferences,
     Misuse,
     MissingTexts,
     Messages,
@@ -47,6 +48,7 @@ class Audit {
     std::map<Leftover, std::string> _allowed;
     std::map<std::string, int> _liveObjects;
     std::string _language;
+    std::string _preferences;
     int _subscriptions;
     int _analyseCallbacks;
     int _traceSinks;

@@ -9,6 +9,7 @@
 #include "host/MessageCatalogs.h"
 #include "host/Messages.h"
 #include "host/Misuse.h"
+#include "host/Preferences.h"
 #include "host/Trace.h"
 #include "support/RecordingCommand.h"
 
@@ -73,6 +74,11 @@ std::vector<Case> BodyCases() {
          "trace levels were lowered: OrvKv9Errors; OrvKv9SubFrames; OrvKv9ViewBase; any other channel"},
         {"FaultPoints", Leftover::FaultPoints, [] { host::FaultPoints::StartCounting(); },
          [] { host::FaultPoints::Stop(); }, "fault points are armed"},
+        {"Preferences", Leftover::Preferences, [] { host::Preferences::Withdraw(); },
+         [] { host::Preferences::KeepInMemory(); }, "the preferences are withdrawn"},
+        {"PreferencesFile", Leftover::Preferences,
+         [] { host::Preferences::KeepInFile("/nowhere/preferences"); },
+         [] { host::Preferences::KeepInMemory(); }, "the preferences are kept in /nowhere/preferences"},
         {"Misuse", Leftover::Misuse, [] { host::Misuse::Record("a widget without parent"); },
          [] { host::Misuse::Clear(); }, "misuses: a widget without parent"},
         {"MissingTexts", Leftover::MissingTexts, [] { host::MessageCatalogs::RecordMissing("Panel: Title"); },

@@ -134,6 +134,8 @@ class CATDialog : public CATCommand {
     void StandAlone() { _isWindow = true; }
     // For tab containers, whose children lie behind one another.
     void HoldPages() { _holdsPages = true; }
+    // For widgets that draw their title.
+    void DrawTitle(bool iDraws = true) { _drawsTitle = iDraws; }
 
   private:
     friend class host::ChangeLog;
@@ -174,6 +176,7 @@ class CATDialog : public CATCommand {
     bool _takesChildren = true;
     bool _isWindow = false;
     bool _holdsPages = false;
+    bool _drawsTitle = false;
     CATDlgOrientation _orientation = Horizontal;
 };
 

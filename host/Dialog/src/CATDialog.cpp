@@ -23,7 +23,7 @@ CATDialog::CATDialog(const CATDialog& iOther)
       _extras(iOther._extras == nullptr ? nullptr : new host::DialogExtras(*iOther._extras)),
       _style(iOther._style), _isShown(iOther._isShown), _isEnabled(iOther._isEnabled),
       _takesChildren(iOther._takesChildren), _isWindow(iOther._isWindow), _holdsPages(iOther._holdsPages),
-      _orientation(iOther._orientation) {
+      _drawsTitle(iOther._drawsTitle), _orientation(iOther._orientation) {
     host::WidgetTree::Announce(*this);
 }
 

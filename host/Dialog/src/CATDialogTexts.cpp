@@ -9,8 +9,10 @@
 
 namespace {
 
-CATUnicodeString TextOr(const std::optional<std::string>& iText, const CATUnicodeString& iDefault) {
-    return iText.has_value() ? CATUnicodeString(iText->c_str()) : iDefault;
+// The text of a resource file, empty where there is none.
+CATUnicodeString ResourceText(const CATDialog& iWidget, const char* iKeyword) {
+    const std::string* const text = host::ResourceTexts::Text(iWidget, iKeyword);
+    return text == nullptr ? CATUnicodeString() : CATUnicodeString(text->c_str());
 }
 
 } // namespace
@@ -22,8 +24,11 @@ void CATDialog::SetTitle(const CATUnicodeString& iTitle) {
 CATUnicodeString CATDialog::GetTitle() const {
     if (_extras != nullptr && _extras->title.has_value())
         return *_extras->title;
-    const bool isWanted = host::Inspector::ShowsTitle(*this);
-    return TextOr(host::ResourceTexts::Text(*this, "Title", isWanted), CATUnicodeString(GetName()));
+    if (const std::string* const text = host::ResourceTexts::Text(*this, "Title"))
+        return text->c_str();
+    if (host::Inspector::ShowsTitle(*this))
+        host::ResourceTexts::RecordMissing(*this, "Title");
+    return GetName();
 }
 
 void CATDialog::SetShortHelp(const CATUnicodeString& iText) {
@@ -33,7 +38,7 @@ void CATDialog::SetShortHelp(const CATUnicodeString& iText) {
 CATUnicodeString CATDialog::GetShortHelp() const {
     if (_extras != nullptr && _extras->shortHelp.has_value())
         return *_extras->shortHelp;
-    return TextOr(host::ResourceTexts::Text(*this, "ShortHelp", false), CATUnicodeString());
+    return ResourceText(*this, "ShortHelp");
 }
 
 void CATDialog::SetLongHelp(const CATUnicodeString& iText) {
@@ -43,7 +48,7 @@ void CATDialog::SetLongHelp(const CATUnicodeString& iText) {
 CATUnicodeString CATDialog::GetLongHelp() const {
     if (_extras != nullptr && _extras->longHelp.has_value())
         return *_extras->longHelp;
-    return TextOr(host::ResourceTexts::Text(*this, "LongHelp", false), CATUnicodeString());
+    return ResourceText(*this, "LongHelp");
 }
 
 void CATDialog::SetHelp(const CATUnicodeString& iText) {
@@ -53,12 +58,12 @@ void CATDialog::SetHelp(const CATUnicodeString& iText) {
 CATUnicodeString CATDialog::GetHelp() const {
     if (_extras != nullptr && _extras->help.has_value())
         return *_extras->help;
-    return TextOr(host::ResourceTexts::Text(*this, "Help", false), CATUnicodeString());
+    return ResourceText(*this, "Help");
 }
 
 int CATDialog::GetResourceValueFromKey(const CATString& iKey, CATUnicodeString& oValue) const {
-    const std::optional<std::string> text = host::ResourceTexts::PanelText(*this, iKey.ConvertToChar());
-    if (!text.has_value())
+    const std::string* const text = host::ResourceTexts::PanelText(*this, iKey.ConvertToChar());
+    if (text == nullptr)
         return 0;
     oValue = CATUnicodeString(text->c_str());
     return 1;

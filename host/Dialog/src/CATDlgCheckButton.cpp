@@ -6,7 +6,9 @@
 CATImplementClass(CATDlgCheckButton, Implementation, CATDlgControl, CATNull);
 
 CATDlgCheckButton::CATDlgCheckButton(CATDialog* iParent, const CATString& iName, CATDlgStyle iStyle)
-    : CATDlgControl(iParent, iName, iStyle) {}
+    : CATDlgControl(iParent, iName, iStyle) {
+    DrawTitle();
+}
 
 CATULong CATDlgCheckButton::GetState() const {
     return _isChecked ? CATDlgCheck : CATDlgUncheck;

@@ -3,4 +3,6 @@
 CATImplementClass(CATDlgLabel, Implementation, CATDlgControl, CATNull);
 
 CATDlgLabel::CATDlgLabel(CATDialog* iParent, const CATString& iName, CATDlgStyle iStyle)
-    : CATDlgControl(iParent, iName, iStyle) {}
+    : CATDlgControl(iParent, iName, iStyle) {
+    DrawTitle();
+}

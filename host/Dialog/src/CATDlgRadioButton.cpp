@@ -8,7 +8,9 @@
 CATImplementClass(CATDlgRadioButton, Implementation, CATDlgControl, CATNull);
 
 CATDlgRadioButton::CATDlgRadioButton(CATDialog* iParent, const CATString& iName, CATDlgStyle iStyle)
-    : CATDlgControl(iParent, iName, iStyle) {}
+    : CATDlgControl(iParent, iName, iStyle) {
+    DrawTitle();
+}
 
 CATULong CATDlgRadioButton::GetState() const {
     return _isChecked ? CATDlgCheck : CATDlgUncheck;

@@ -3,4 +3,6 @@
 CATImplementClass(CATDlgTabPage, Implementation, CATDlgBox, CATNull);
 
 CATDlgTabPage::CATDlgTabPage(CATDialog* iParent, const CATString& iName, CATDlgStyle iStyle)
-    : CATDlgBox(iParent, iName, iStyle) {}
+    : CATDlgBox(iParent, iName, iStyle) {
+    DrawTitle();
+}

@@ -8,6 +8,7 @@ CATImplementClass(CATDlgWindow, Implementation, CATDialog, CATNull);
 CATDlgWindow::CATDlgWindow(CATDialog* iParent, const CATString& iName, CATDlgStyle iStyle)
     : CATDialog(iParent, iName, iStyle) {
     StandAlone();
+    DrawTitle();
     SetVisibility(CATDlgHide);
     host::WidgetTree::JoinWindow(*this);
 }

@@ -10,6 +10,7 @@
 #include "CATDlgSpinner.h"
 #include "CATDlgTabContainer.h"
 #include "host/Inspector.h"
+#include "host/ValueFrame.h"
 
 #include <algorithm>
 #include <locale>
@@ -20,6 +21,11 @@ namespace host {
 namespace {
 
 constexpr int maximumRows = 50; // rows of a list that are written
+
+std::vector<DialogDump::Describer>& Describers() {
+    static std::vector<DialogDump::Describer> describers;
+    return describers;
+}
 
 std::string Quoted(const std::string& iText) {
     std::string quoted = "\"";
@@ -100,6 +106,18 @@ class Writer {
             _out << " page=" << pages->GetSelectedPage();
         else if (const auto* dialog = dynamic_cast<const CATDlgDialog*>(&iWidget))
             WriteButtons(*dialog);
+        else if (const auto* field = dynamic_cast<const ValueFrame*>(&iWidget))
+            WriteField(*field);
+        else
+            WriteDescription(iWidget);
+    }
+
+    void WriteDescription(const CATDialog& iWidget) {
+        for (const DialogDump::Describer describer : Describers()) {
+            const std::string text = describer(iWidget);
+            if (!text.empty())
+                _out << ' ' << text;
+        }
     }
 
     void WriteCombo(const CATDlgCombo& iCombo) {
@@ -116,6 +134,18 @@ class Writer {
         if ((Inspector::Style(iEditor) & CATDlgEdtReadOnly) != 0)
             _out << " read-only";
         _out << " text=" << Quoted(iEditor.GetText());
+    }
+
+    void WriteField(const ValueFrame& iField) {
+        if (!iField.IsEditable())
+            _out << " read-only";
+        if (iField.HasSpinner())
+            _out << " spinner";
+        if (!iField.Label().empty())
+            _out << " label=" << Quoted(iField.Label());
+        _out << " text=" << Quoted(iField.Text());
+        if (iField.IsRefused())
+            _out << " problem=" << Quoted(iField.Problem());
     }
 
     void WriteList(const CATDlgMultiList& iList) {
@@ -208,6 +238,12 @@ std::string DialogDump::Of(const CATDialog& iWidget, Detail iDetail) {
     out.imbue(std::locale::classic());
     Writer(out, iDetail).Write(iWidget, 0);
     return out.str();
+}
+
+void DialogDump::DescribeBy(Describer iDescriber) {
+    std::vector<Describer>& describers = Describers();
+    if (std::find(describers.begin(), describers.end(), iDescriber) == describers.end())
+        describers.push_back(iDescriber);
 }
 
 std::string DialogDump::OfAll(Detail iDetail) {

@@ -18,8 +18,10 @@
 #include "host/EventScope.h"
 #include "host/Inspector.h"
 #include "host/Messages.h"
+#include "host/ValueFrame.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace host {
 
@@ -296,14 +298,53 @@ Outcome DialogUser::TypeValue(CATDlgSpinner& ioSpinner, const std::string& iText
         return use;
     if ((Inspector::Style(ioSpinner) & CATDlgSpnEntry) == 0)
         return Refuse(ioSpinner, "has no field to type in");
+    std::string number = iText;
+    std::replace(number.begin(), number.end(), ',', '.');
     double value = 0.0;
-    if (CATUnicodeString(iText.c_str()).ConvertToNum(&value) != 0)
+    if (CATUnicodeString(number.c_str()).ConvertToNum(&value) != 0)
         return Refuse(ioSpinner, "takes numbers, and '" + iText + "' is none");
+    if ((Inspector::Style(ioSpinner) & CATDlgSpnDouble) == 0 && std::trunc(value) != value)
+        return Refuse(ioSpinner, "takes whole numbers, and '" + iText + "' is none");
     const Inspector::Range range = Inspector::RangeOf(ioSpinner);
     if (value < range.minimum || value > range.maximum)
         return Refuse(ioSpinner, "does not take " + iText + ", which is out of its range");
     const EventScope event;
     ioSpinner.SetValue(value, CATDlgWithNotification);
+    return use;
+}
+
+Outcome DialogUser::CanEdit(const ValueFrame& iFrame) {
+    Outcome use = CanUse(iFrame);
+    return use && !iFrame.IsEditable() ? Refuse(iFrame, "is read-only") : use;
+}
+
+Outcome DialogUser::Type(ValueFrame& ioFrame, const std::string& iText) {
+    Outcome edit = CanEdit(ioFrame);
+    if (!edit)
+        return edit;
+    if (iText.find('\n') != std::string::npos)
+        return Refuse(ioFrame, "takes one line");
+    const EventScope event;
+    ioFrame.Enter(iText);
+    return edit;
+}
+
+Outcome DialogUser::Spin(ValueFrame& ioFrame, int iSteps) {
+    Outcome edit = CanEdit(ioFrame);
+    if (!edit)
+        return edit;
+    if (!ioFrame.HasSpinner())
+        return Refuse(ioFrame, "has no arrows");
+    const EventScope event;
+    return ioFrame.Step(iSteps);
+}
+
+Outcome DialogUser::Restore(ValueFrame& ioFrame) {
+    Outcome use = CanUse(ioFrame);
+    if (!use)
+        return use;
+    const EventScope event;
+    ioFrame.Restore();
     return use;
 }
 

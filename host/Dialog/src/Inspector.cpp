@@ -1,19 +1,14 @@
 #include "host/Inspector.h"
 
-#include "CATDlgCheckButton.h"
 #include "CATDlgCombo.h"
 #include "CATDlgDialog.h"
 #include "CATDlgDocument.h"
 #include "CATDlgEditor.h"
-#include "CATDlgFrame.h"
 #include "CATDlgLabel.h"
 #include "CATDlgMultiList.h"
 #include "CATDlgNotify.h"
 #include "CATDlgProgress.h"
-#include "CATDlgPushButton.h"
-#include "CATDlgRadioButton.h"
 #include "CATDlgSpinner.h"
-#include "CATDlgTabPage.h"
 #include "DialogExtras.h"
 #include "MultiListState.h"
 #include "PowerInput.h"
@@ -105,15 +100,9 @@ bool Inspector::IsEnabledWithParents(const CATDialog& iWidget) {
 }
 
 bool Inspector::ShowsTitle(const CATDialog& iWidget) {
-    if (dynamic_cast<const CATDlgFrame*>(&iWidget) != nullptr)
-        return (iWidget._style & (CATDlgFraNoFrame | CATDlgFraNoTitle)) == 0;
-    if (dynamic_cast<const CATDlgLabel*>(&iWidget) != nullptr)
-        return Icons(iWidget).normal.empty();
-    return dynamic_cast<const CATDlgWindow*>(&iWidget) != nullptr ||
-           dynamic_cast<const CATDlgPushButton*>(&iWidget) != nullptr ||
-           dynamic_cast<const CATDlgRadioButton*>(&iWidget) != nullptr ||
-           dynamic_cast<const CATDlgCheckButton*>(&iWidget) != nullptr ||
-           dynamic_cast<const CATDlgTabPage*>(&iWidget) != nullptr;
+    if (!iWidget._drawsTitle)
+        return false;
+    return dynamic_cast<const CATDlgLabel*>(&iWidget) == nullptr || Icons(iWidget).normal.empty();
 }
 
 IconNames Inspector::Icons(const CATDialog& iWidget) {
@@ -123,7 +112,8 @@ IconNames Inspector::Icons(const CATDialog& iWidget) {
         if (iWidget._extras != nullptr)
             names[state] = iWidget._extras->icons[state].ConvertToChar();
         if (names[state].empty())
-            names[state] = ResourceTexts::Value(iWidget, keywords[state]).value_or(std::string());
+            if (const std::string* const value = ResourceTexts::Value(iWidget, keywords[state]))
+                names[state] = *value;
     }
     return IconNames{names[0], names[1], names[2], names[3]};
 }
@@ -288,6 +278,17 @@ Inspector::Range Inspector::RangeOf(const CATDlgSpinner& iSpinner) {
 Inspector::Range Inspector::RangeOf(const CATDlgProgress& iProgress) {
     return Range{static_cast<double>(iProgress._minimum), static_cast<double>(iProgress._maximum),
                  static_cast<double>(iProgress._step), 0};
+}
+
+std::string Inspector::ShownText(const CATDlgSpinner& iSpinner) {
+    constexpr int mostDigits = 15;
+    const int precision = std::min(iSpinner._precision, mostDigits);
+    const std::string format = precision < 0 ? "%g" : "%." + std::to_string(precision) + "f";
+    CATUnicodeString number;
+    number.BuildFromNum(iSpinner._value, format.c_str());
+    const std::string text = number.ConvertToChar();
+    const bool isMinusZero = text.front() == '-' && text.find_first_of("123456789") == std::string::npos;
+    return isMinusZero ? text.substr(1) : text;
 }
 
 } // namespace host

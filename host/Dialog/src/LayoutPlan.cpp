@@ -129,6 +129,48 @@ Axis::Block PlaceFree(Axis& ioAxis, bool iIsAttachedAcross, bool iRunsAlong) {
     return iIsAttachedAcross || iRunsAlong ? ioAxis.PlaceBehind() : ioAxis.PlaceFirst();
 }
 
+bool ShareCells(const Cell& iOne, const Cell& iOther) {
+    return iOne.row < iOther.row + iOther.rowSpan && iOther.row < iOne.row + iOne.rowSpan &&
+           iOne.column < iOther.column + iOther.columnSpan && iOther.column < iOne.column + iOne.columnSpan;
+}
+
+bool IsTiedTo(const Cell& iCell, unsigned int iSides) {
+    return (iCell.sides & (CATGRID_LEFT | CATGRID_RIGHT)) == iSides;
+}
+
+// Whether a child that only ends on a line covers the end of one that spans up to the same line.
+bool CoversTheEndOf(const Cell& iShort, const Cell& iLong) {
+    return IsTiedTo(iLong, CATGRID_LEFT | CATGRID_RIGHT) &&
+           iLong.column + iLong.columnSpan == iShort.column + iShort.columnSpan && ShareCells(iShort, iLong);
+}
+
+// Gives a child that would cover the end of another one a column of its own between that one and the line.
+void MakeRoomFor(Cell& ioCell, LayoutPlan& ioPlan) {
+    const int column = ioCell.column + ioCell.columnSpan;
+    for (Cell& other : ioPlan.cells) {
+        if (&other == &ioCell)
+            continue;
+        const int end = other.column + other.columnSpan;
+        if (other.column >= column)
+            ++other.column;
+        else if (end > column ||
+                 (end == column && (other.sides & CATGRID_RIGHT) != 0 && !CoversTheEndOf(ioCell, other)))
+            ++other.columnSpan;
+    }
+    ioCell.column = column;
+    ioCell.columnSpan = 1;
+    ioPlan.columnStretches.insert(ioPlan.columnStretches.begin() + column, false);
+    ++ioPlan.columns;
+}
+
+void KeepEndsApart(LayoutPlan& ioPlan) {
+    for (Cell& cell : ioPlan.cells) {
+        const auto isCovered = [&cell](const Cell& iOther) { return CoversTheEndOf(cell, iOther); };
+        if (IsTiedTo(cell, CATGRID_RIGHT) && std::any_of(ioPlan.cells.begin(), ioPlan.cells.end(), isCovered))
+            MakeRoomFor(cell, ioPlan);
+    }
+}
+
 LayoutPlan PlanTabulations(const CATDialog& iContainer, const std::vector<CATDialog*>& iChildren) {
     Axis columns(&Inspector::ColumnsOf);
     Axis rows(&Inspector::RowsOf);
@@ -162,6 +204,7 @@ LayoutPlan PlanTabulations(const CATDialog& iContainer, const std::vector<CATDia
     plan.columns = columns.Count();
     plan.rowStretches = rows.TakeStretches();
     plan.columnStretches = columns.TakeStretches();
+    KeepEndsApart(plan);
     return plan;
 }
 

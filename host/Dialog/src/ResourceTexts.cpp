@@ -1,6 +1,7 @@
 #include "ResourceTexts.h"
 
 #include "CATDialog.h"
+#include "WidgetTree.h"
 #include "host/MessageCatalogs.h"
 
 namespace host {
@@ -9,58 +10,77 @@ namespace {
 
 // Asks the files of the panel's class and the classes above it, in this order, for the first key that is
 // there.
-std::optional<std::string> SearchFiles(const CATDialog& iPanel, ResourceTexts::Search iSearch,
-                                       const std::string& iKey, const std::string& iOtherKey) {
-    std::string searched;
+const std::string* SearchFiles(const CATDialog& iPanel, ResourceTexts::Search iSearch, std::string_view iKey,
+                               std::string_view iOtherKey) {
+    std::string_view searched;
     for (int level = 0;; ++level) {
-        const char* name = iPanel.GetResourceFilename(level);
-        const std::string file = name == nullptr ? std::string() : name;
+        const char* const name = iPanel.GetResourceFilename(level);
+        const std::string_view file = name == nullptr ? std::string_view() : name;
         if (file.empty() || file == searched)
-            return std::nullopt;
-        std::optional<std::string> text = iSearch(file, iKey);
-        if (!text.has_value() && iOtherKey != iKey)
-            text = iSearch(file, iOtherKey);
-        if (text.has_value())
+            return nullptr;
+        if (const std::string* const text = iSearch(file, iKey, iOtherKey))
             return text;
         searched = file;
     }
 }
 
-std::string JoinedKey(const std::string& iPath, const std::string& iKeyword) {
-    return iPath.empty() ? iKeyword : iPath + "." + iKeyword;
+std::string_view NameOf(const CATDialog& iWidget) {
+    const CATString& name = iWidget.GetName();
+    return {name.ConvertToChar(), static_cast<std::size_t>(name.GetLengthInChar())};
 }
 
 } // namespace
 
-std::optional<std::string> ResourceTexts::Text(const CATDialog& iWidget, const std::string& iKeyword,
-                                               bool iIsWanted) {
-    std::optional<std::string> text = Find(iWidget, iKeyword, &MessageCatalogs::Text);
-    const CATDialog* const panel = PanelOf(iWidget);
-    if (!text.has_value() && iIsWanted && panel != nullptr)
-        MessageCatalogs::RecordMissing(std::string(panel->GetResourceFilename(0)) + ": " +
-                                       JoinedKey(PathBelow(*panel, iWidget), iKeyword));
+const std::string* ResourceTexts::Text(const CATDialog& iWidget, const char* iKeyword) {
+    return Find(iWidget, iKeyword, &MessageCatalogs::FindText);
+}
+
+const std::string* ResourceTexts::Value(const CATDialog& iWidget, const char* iKeyword) {
+    return Find(iWidget, iKeyword, &MessageCatalogs::FindResource);
+}
+
+// The name of the widget and the keyword are the end of the whole key.
+const std::string* ResourceTexts::Find(const CATDialog& iWidget, const char* iKeyword, Search iSearch) {
+    Place& place = PlaceOf(iWidget);
+    if (place.panel == nullptr)
+        return nullptr;
+    const std::size_t path = place.path.size();
+    const bool isPanel = place.panel == &iWidget;
+    const std::size_t name = isPanel ? path : path - NameOf(iWidget).size() - 1;
+    place.path += iKeyword;
+    const std::string_view key = place.path;
+    const std::string* const text = SearchFiles(*place.panel, iSearch, key, key.substr(name));
+    place.path.resize(path);
     return text;
 }
 
-std::optional<std::string> ResourceTexts::Value(const CATDialog& iWidget, const std::string& iKeyword) {
-    return Find(iWidget, iKeyword, &MessageCatalogs::Resource);
+const std::string* ResourceTexts::PanelText(const CATDialog& iWidget, const char* iKey) {
+    const CATDialog* const panel = PlaceOf(iWidget).panel;
+    return panel == nullptr ? nullptr : SearchFiles(*panel, &MessageCatalogs::FindText, iKey, iKey);
 }
 
-std::optional<std::string> ResourceTexts::Find(const CATDialog& iWidget, const std::string& iKeyword,
-                                               Search iSearch) {
-    const CATDialog* const panel = PanelOf(iWidget);
-    if (panel == nullptr)
-        return std::nullopt;
-    const std::string key = JoinedKey(PathBelow(*panel, iWidget), iKeyword);
-    const std::string name = panel == &iWidget ? std::string() : iWidget.GetName().ConvertToChar();
-    return SearchFiles(*panel, iSearch, key, JoinedKey(name, iKeyword));
+void ResourceTexts::RecordMissing(const CATDialog& iWidget, const char* iKeyword) {
+    const Place& place = PlaceOf(iWidget);
+    if (place.panel != nullptr)
+        MessageCatalogs::RecordMissing(std::string(place.panel->GetResourceFilename(0)) + ": " + place.path +
+                                       iKeyword);
 }
 
-std::optional<std::string> ResourceTexts::PanelText(const CATDialog& iWidget, const std::string& iKey) {
-    const CATDialog* const panel = PanelOf(iWidget);
-    if (panel == nullptr)
-        return std::nullopt;
-    return SearchFiles(*panel, &MessageCatalogs::Text, iKey, iKey);
+// The texts of a widget are mostly asked for one after the other, so the last place is kept: as long as the
+// tree is the same, and the widget's class, which is another one while the widget is being made.
+ResourceTexts::Place& ResourceTexts::PlaceOf(const CATDialog& iWidget) {
+    static auto* last = new Place;
+    const char* const file = iWidget.GetResourceFilename(0);
+    if (last->widget == &iWidget && last->file == file && last->tree == WidgetTree::Revision())
+        return *last;
+    last->widget = &iWidget;
+    last->file = file;
+    last->tree = WidgetTree::Revision();
+    last->panel = PanelOf(iWidget);
+    last->path.clear();
+    if (last->panel != nullptr)
+        AppendPath(*last->panel, iWidget, last->path);
+    return *last;
 }
 
 const CATDialog* ResourceTexts::PanelOf(const CATDialog& iWidget) {
@@ -72,13 +92,11 @@ const CATDialog* ResourceTexts::PanelOf(const CATDialog& iWidget) {
     return nullptr;
 }
 
-std::string ResourceTexts::PathBelow(const CATDialog& iPanel, const CATDialog& iWidget) {
+void ResourceTexts::AppendPath(const CATDialog& iPanel, const CATDialog& iWidget, std::string& ioPath) {
     if (&iWidget == &iPanel)
-        return std::string();
-    std::string path = iWidget.GetName().ConvertToChar();
-    for (const CATDialog* widget = iWidget._parent; widget != &iPanel; widget = widget->_parent)
-        path.insert(0, std::string(widget->GetName().ConvertToChar()) + ".");
-    return path;
+        return;
+    AppendPath(iPanel, *iWidget._parent, ioPath);
+    ioPath.append(NameOf(iWidget)).append(1, '.');
 }
 
 } // namespace host

@@ -1,8 +1,8 @@
 #ifndef ResourceTexts_H
 #define ResourceTexts_H
 
-#include <optional>
 #include <string>
+#include <string_view>
 
 class CATDialog;
 
@@ -16,22 +16,35 @@ namespace host {
 // lacks is taken from that of the class above it.
 class ResourceTexts {
   public:
-    // One file's answer to one key.
-    typedef std::optional<std::string> (*Search)(const std::string& iFile, const std::string& iKey);
+    // One file's answer to a key, or else to the other one; null for none.
+    typedef const std::string* (*Search)(std::string_view iFile, std::string_view iKey,
+                                         std::string_view iOtherKey);
 
-    // Text of a widget; a miss is recorded when iIsWanted.
-    static std::optional<std::string> Text(const CATDialog& iWidget, const std::string& iKeyword,
-                                           bool iIsWanted);
+    // Each gives null where no file has the text; a text is valid until the path or language changes.
+
+    static const std::string* Text(const CATDialog& iWidget, const char* iKeyword);
     // Value from the resource files without language.
-    static std::optional<std::string> Value(const CATDialog& iWidget, const std::string& iKeyword);
+    static const std::string* Value(const CATDialog& iWidget, const char* iKeyword);
     // Text of a plain key of the panel that answers for the widget.
-    static std::optional<std::string> PanelText(const CATDialog& iWidget, const std::string& iKey);
+    static const std::string* PanelText(const CATDialog& iWidget, const char* iKey);
+
+    // Notes that a text which a person would see is missing.
+    static void RecordMissing(const CATDialog& iWidget, const char* iKeyword);
 
   private:
-    static std::optional<std::string> Find(const CATDialog& iWidget, const std::string& iKeyword,
-                                           Search iSearch);
+    // Where a widget's texts are looked for.
+    struct Place {
+        const CATDialog* widget = nullptr;
+        const char* file = nullptr;       // named by the widget's own class
+        unsigned tree = 0;                // revision of the dialog tree
+        const CATDialog* panel = nullptr; // null where no panel answers
+        std::string path; // the names from below the panel to the widget, each with a dot behind it
+    };
+
+    static const std::string* Find(const CATDialog& iWidget, const char* iKeyword, Search iSearch);
+    static Place& PlaceOf(const CATDialog& iWidget);
     static const CATDialog* PanelOf(const CATDialog& iWidget);
-    static std::string PathBelow(const CATDialog& iPanel, const CATDialog& iWidget);
+    static void AppendPath(const CATDialog& iPanel, const CATDialog& iWidget, std::string& ioPath);
 };
 
 } // namespace host

@@ -40,7 +40,10 @@ std::string Quoted(const CATString& iName) {
 
 } // namespace
 
+unsigned WidgetTree::_revision = 1;
+
 void WidgetTree::Join(CATDialog& ioWidget) {
+    ++_revision;
     CATDialog* const parent = ioWidget._parent;
     if (parent != nullptr) {
         ioWidget._previousSibling = parent->_lastChild;
@@ -65,6 +68,7 @@ void WidgetTree::Announce(CATDialog& ioWidget) {
 }
 
 void WidgetTree::Leave(CATDialog& ioWidget) {
+    ++_revision;
     CATDialog* const parent = ioWidget._parent;
     if (parent != nullptr) {
         CATDialog* const before = ioWidget._previousSibling;

@@ -17,6 +17,8 @@ class WidgetTree {
     // Makes a widget known to watchers and by its name.
     static void Announce(CATDialog& ioWidget);
     static void Leave(CATDialog& ioWidget);
+    // A number that is another one after each widget that has come or gone.
+    static unsigned Revision() { return _revision; }
 
     static void JoinWindow(CATDlgWindow& ioWindow);
     static void LeaveWindow(CATDlgWindow& ioWindow);
@@ -35,6 +37,8 @@ class WidgetTree {
 
   private:
     static void Index(CATDialog& ioWidget);
+
+    static unsigned _revision;
 };
 
 } // namespace host

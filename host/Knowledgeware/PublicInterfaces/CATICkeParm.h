@@ -7,8 +7,8 @@
 // A parameter: a named value with a magnitude and a unit.
 //
 // The same object has CATIParmAsStored (the value in storage units), CATIParmTolerance (lengths and angles
-// alone) and CATIParmEvents (what subscribers hear); a handle of the wanted interface made from it reaches
-// them.
+// alone), CATIParmEvents (what subscribers hear), CATICkeParamFrame (makes edition frames) and
+// CATICkeParmManipulator (their increment); a handle of the wanted interface made from it reaches them.
 class CATICkeParm : public CATICkeInst {
     CATDeclareInterface;
 

@@ -1,6 +1,8 @@
 #include "CATICkeInst.h"
+#include "CATICkeParamFrame.h"
 #include "CATICkeParm.h"
 #include "CATICkeParmFactory.h"
+#include "CATICkeParmManipulator.h"
 #include "CATICkeType.h"
 #include "CATIParmAsStored.h"
 #include "CATIParmEvents.h"
@@ -10,7 +12,9 @@
 CATImplementInterface(CATICkeType, CATBaseUnknown);
 CATImplementInterface(CATICkeInst, CATBaseUnknown);
 CATImplementInterface(CATICkeParm, CATICkeInst);
+CATImplementInterface(CATICkeParamFrame, CATBaseUnknown);
 CATImplementInterface(CATICkeParmFactory, CATBaseUnknown);
+CATImplementInterface(CATICkeParmManipulator, CATBaseUnknown);
 CATImplementInterface(CATIParmAsStored, CATBaseUnknown);
 CATImplementInterface(CATIParmEvents, CATBaseUnknown);
 CATImplementInterface(CATIParmPublisher, CATBaseUnknown);

@@ -32,6 +32,8 @@ class Magnitude : public Component<CATICkeType> {
     bool HasText() const { return _values == Values::Texts; }
     // Lengths and angles alone.
     bool HasTolerance() const { return *_unit != '\0'; }
+    // Whether the values follow one another in steps: every number does.
+    bool HasSteps() const { return _values == Values::Numbers || _values == Values::WholeNumbers; }
     // Whether a number, in storage units, is a value of this magnitude.
     bool Takes(double iStored) const;
     double ToMks(double iStored) const { return iStored / _storedPerMks; }

@@ -1,6 +1,7 @@
 #include "Parameter.h"
 
 #include "CATCallbackManager.h"
+#include "ParameterFrame.h"
 #include "ParameterNotifications.h"
 #include "Publisher.h"
 
@@ -58,6 +59,10 @@ void* Parameter::Find(const IID& iInterface) {
         return _magnitude.HasText() ? nullptr : static_cast<CATIParmAsStored*>(&_asStored);
     if (iInterface == IID_CATICkeInst)
         return static_cast<CATICkeInst*>(this);
+    if (iInterface == IID_CATICkeParamFrame)
+        return static_cast<CATICkeParamFrame*>(&Edition().frameBuilder);
+    if (iInterface == IID_CATICkeParmManipulator)
+        return HasSteps() ? static_cast<CATICkeParmManipulator*>(&Edition().manipulator) : nullptr;
     return nullptr;
 }
 
@@ -89,7 +94,10 @@ HRESULT Parameter::Valuate(int iValue) {
 HRESULT Parameter::Valuate(const CATUnicodeString& iText) {
     if (_text == nullptr || FaultPoints::Fails("parameter write"))
         return E_FAIL;
-    *_text = iText;
+    if (*_text != iText) {
+        *_text = iText;
+        TellFrames();
+    }
     _events.RaiseChange(1);
     return S_OK;
 }
@@ -109,15 +117,33 @@ CATICkeInst_var Parameter::Value() {
 }
 
 void Parameter::SetUserAccessMode(int iMode) {
-    if (iMode == 1 || iMode == 3)
-        _accessMode = iMode;
+    if ((iMode != 1 && iMode != 3) || iMode == _accessMode)
+        return;
+    _accessMode = iMode;
+    TellFrames();
 }
 
 HRESULT Parameter::Store(double iStored) {
     if (!_magnitude.Takes(iStored) || FaultPoints::Fails("parameter write"))
         return E_FAIL;
+    if (_stored == iStored)
+        return S_OK;
     _stored = WithoutMinusZero(iStored);
+    TellFrames();
     return S_OK;
+}
+
+ParameterEdition& Parameter::Edition() {
+    if (_edition == nullptr)
+        _edition = std::make_unique<ParameterEdition>(*this);
+    return *_edition;
+}
+
+void Parameter::TellFrames() {
+    if (_edition == nullptr)
+        return;
+    for (ParameterFrame* const frame : _edition->frames)
+        frame->Follow();
 }
 
 void Parameter::Raise(CATNotification& ioNotification) {

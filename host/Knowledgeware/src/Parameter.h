@@ -6,6 +6,7 @@
 #include "CATNotification.h"
 #include "Magnitude.h"
 #include "ParameterAsStored.h"
+#include "ParameterEdition.h"
 #include "ParameterEvents.h"
 #include "ParameterTolerance.h"
 #include "host/Component.h"
@@ -55,6 +56,14 @@ class Parameter : public Component<CATICkeParm> {
     Publisher* PublishedBy() const { return _publisher; }
     void SetPublisher(Publisher* iPublisher) { _publisher = iPublisher; }
 
+    // Whether the value can be stepped, and by how much, in storage units.
+    bool HasSteps() const { return _magnitude.HasSteps(); }
+    double Increment() { return Edition().manipulator.Increment(); }
+
+    // The edition frames, which keep the parameter alive and are told of every change.
+    void AddFrame(ParameterFrame& ioFrame) { Edition().frames.push_back(&ioFrame); }
+    void RemoveFrame(const ParameterFrame& iFrame) { std::erase(Edition().frames, &iFrame); }
+
   protected:
     void* Find(const IID& iInterface) override;
 
@@ -62,6 +71,8 @@ class Parameter : public Component<CATICkeParm> {
     Parameter(Magnitude& iMagnitude, const CATUnicodeString& iName);
     static Parameter* Make(Magnitude& iMagnitude, const CATUnicodeString& iName);
     static CATICkeParm_var Adopted(Parameter* iMade);
+    ParameterEdition& Edition();
+    void TellFrames();
 
     CATUnicodeString _name;
     Magnitude& _magnitude;
@@ -72,6 +83,7 @@ class Parameter : public Component<CATICkeParm> {
     ParameterEvents _events{*this};
     ParameterAsStored _asStored{*this};
     ParameterTolerance _tolerance{*this};
+    std::unique_ptr<ParameterEdition> _edition; // null while nobody has asked for it
 };
 
 } // namespace host

@@ -8,7 +8,7 @@ namespace host {
 
 namespace {
 
-constexpr const char* blanks = " \t\r\n";
+constexpr std::size_t longestQuote = 60; // bytes
 
 bool IsDigit(char iCharacter) {
     return iCharacter >= '0' && iCharacter <= '9';
@@ -31,7 +31,7 @@ bool StartsLikeNumber(const std::string& iText) {
 }
 
 Outcome NotANumber(const std::string& iText) {
-    return Outcome::Refused(iText.empty() ? "no number is typed" : "'" + iText + "' is not a number");
+    return Outcome::Refused(iText.empty() ? "no number is typed" : Quoted(iText) + " is not a number");
 }
 
 } // namespace
@@ -43,6 +43,16 @@ std::string WithoutOuterBlanks(const std::string& iText) {
     return iText.substr(first, iText.find_last_not_of(blanks) - first + 1);
 }
 
+// Cut where a character of UTF-8 begins.
+std::string Quoted(const std::string& iText) {
+    if (iText.size() <= longestQuote)
+        return "'" + iText + "'";
+    std::size_t end = longestQuote;
+    while (end > 0 && (static_cast<unsigned char>(iText[end]) & 0xC0U) == 0x80U)
+        --end;
+    return "'" + iText.substr(0, end) + "...'";
+}
+
 Outcome TypedNumber::Read(const std::string& iText, TypedNumber& oTyped) {
     const std::string typed = WithoutOuterBlanks(iText);
     std::string text = typed;
@@ -52,12 +62,12 @@ Outcome TypedNumber::Read(const std::string& iText, TypedNumber& oTyped) {
     const char* const first = text.data() + (text.front() == '+' ? 1 : 0);
     const std::from_chars_result read = std::from_chars(first, text.data() + text.size(), oTyped.number);
     if (read.ec == std::errc::result_out_of_range)
-        return Outcome::Refused("'" + typed + "' is outside the range of numbers");
+        return Outcome::Refused(Quoted(typed) + " is outside the range of numbers");
     if (read.ec != std::errc())
         return NotANumber(typed);
     oTyped.unit = WithoutOuterBlanks(typed.substr(static_cast<std::size_t>(read.ptr - text.data())));
     if (HasNumber(oTyped.unit))
-        return Outcome::Refused("'" + typed + "' is more than one number");
+        return Outcome::Refused(Quoted(typed) + " is more than one number");
     return Outcome::Done();
 }
 

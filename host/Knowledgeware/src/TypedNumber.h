@@ -17,8 +17,13 @@ struct TypedNumber {
     static Outcome Read(const std::string& iText, TypedNumber& oTyped);
 };
 
+// What counts as a blank in a typed text.
+constexpr const char* blanks = " \t\r\n";
+
 // iText without the blanks at its two ends.
 std::string WithoutOuterBlanks(const std::string& iText);
+// The text in quotes, for a sentence; of a long one the beginning.
+std::string Quoted(const std::string& iText);
 
 } // namespace host
 

@@ -12,6 +12,9 @@ namespace host {
 
 namespace {
 
+constexpr const char messages[] = ".CATNls";
+constexpr const char resources[] = ".CATRsc";
+
 struct State {
     std::vector<std::string> folders;
     std::string language;
@@ -87,7 +90,8 @@ const CatalogTexts& ReadTexts(const std::string& iLanguage, const std::string& i
     return texts;
 }
 
-// The file that was asked for last: a list asks the same one for each of its rows.
+// The file that was asked for last: a list asks the same one for each of its rows. English is kept apart from
+// the language and from the resources, which are asked for in turn.
 struct LastFile {
     std::string language;
     std::string name;
@@ -97,7 +101,8 @@ struct LastFile {
 };
 
 const CatalogTexts& TextsOf(const std::string& iLanguage, std::string_view iName, const char* iExtension) {
-    static auto* last = new LastFile;
+    static auto* all = new LastFile[3];
+    LastFile* const last = iExtension == resources ? all : iLanguage.empty() ? all + 1 : all + 2;
     if (last->generation == generation && last->extension == iExtension && last->name == iName &&
         last->language == iLanguage)
         return *last->texts;
@@ -107,12 +112,14 @@ const CatalogTexts& TextsOf(const std::string& iLanguage, std::string_view iName
     return texts;
 }
 
-constexpr const char messages[] = ".CATNls";
-constexpr const char resources[] = ".CATRsc";
-
 const std::string* Find(const CatalogTexts& iTexts, std::string_view iKey) {
     const auto found = iTexts.find(iKey);
     return found == iTexts.end() ? nullptr : &found->second;
+}
+
+const std::string* FindEither(const CatalogTexts& iTexts, std::string_view iKey, std::string_view iOtherKey) {
+    const std::string* const text = Find(iTexts, iKey);
+    return text != nullptr || iKey.size() == iOtherKey.size() ? text : Find(iTexts, iOtherKey);
 }
 
 std::optional<std::string> CopyOf(const std::string* iText) {
@@ -149,19 +156,34 @@ std::optional<std::string> MessageCatalogs::Text(const std::string& iCatalog, co
 }
 
 const std::string* MessageCatalogs::FindText(std::string_view iCatalog, std::string_view iKey) {
+    return FindText(iCatalog, iKey, iKey);
+}
+
+const std::string* MessageCatalogs::FindText(std::string_view iCatalog, std::string_view iKey,
+                                             std::string_view iOtherKey) {
     if (FaultPoints::Fails("message look-up"))
         return nullptr;
     const std::string& language = Current().language;
-    if (!language.empty())
-        if (const std::string* text = Find(TextsOf(language, iCatalog, messages), iKey))
-            return text;
-    return Find(TextsOf(std::string(), iCatalog, messages), iKey);
+    const CatalogTexts& english = TextsOf(std::string(), iCatalog, messages);
+    if (language.empty())
+        return FindEither(english, iKey, iOtherKey);
+    const CatalogTexts& translated = TextsOf(language, iCatalog, messages);
+    for (const std::string_view key : {iKey, iOtherKey})
+        for (const CatalogTexts* texts : {&translated, &english})
+            if (const std::string* const text = Find(*texts, key))
+                return text;
+    return nullptr;
 }
 
 std::optional<std::string> MessageCatalogs::Resource(const std::string& iName, const std::string& iKey) {
+    return CopyOf(FindResource(iName, iKey, iKey));
+}
+
+const std::string* MessageCatalogs::FindResource(std::string_view iName, std::string_view iKey,
+                                                 std::string_view iOtherKey) {
     if (FaultPoints::Fails("resource look-up"))
-        return std::nullopt;
-    return CopyOf(Find(TextsOf(std::string(), iName, resources), iKey));
+        return nullptr;
+    return FindEither(TextsOf(std::string(), iName, resources), iKey, iOtherKey);
 }
 
 std::vector<std::string> MessageCatalogs::Keys(const std::string& iCatalog, const std::string& iLanguage) {

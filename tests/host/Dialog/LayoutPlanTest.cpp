@@ -138,6 +138,32 @@ TEST_F(LayoutPlanTest, HasACellBeforeTheFirstLineForAChildThatEndsThere) {
     EXPECT_TRUE(plan.IsLeftOf(a, b));
 }
 
+TEST_F(LayoutPlanTest, PutsAChildThatOnlyEndsOnALineBehindOneThatSpansUpToIt) {
+    frame.SetHorizontalAttachment(0, CATDlgTopOrLeft, &a, &b, nullptr);
+    frame.SetHorizontalAttachment(1, CATDlgTopOrLeft, &c, nullptr);
+    frame.SetVerticalAttachment(0, CATDlgTopOrLeft, &a, &c, nullptr);
+    frame.SetVerticalAttachment(1, CATDlgRightOrBottomRelative, &a, &c, nullptr);
+    frame.SetVerticalAttachment(1, CATDlgRightOrBottom, &b, nullptr);
+    const LayoutPlan plan = PlanLayout(frame);
+    EXPECT_EQ(Told(plan, a), "0,0 1x1 14");
+    EXPECT_EQ(Told(plan, b), "0,1 1x1 12");
+    EXPECT_EQ(Told(plan, c), "1,0 1x2 14") << "what is in another row still reaches the line";
+    EXPECT_EQ(Stretches(plan.columnStretches), ">.");
+    EXPECT_TRUE(plan.IsLeftOf(a, b));
+}
+
+TEST_F(LayoutPlanTest, MovesWhatFollowsALineBeforeWhichRoomIsMade) {
+    frame.SetHorizontalAttachment(0, CATDlgTopOrLeft, &a, &b, &c, nullptr);
+    frame.SetVerticalAttachment(0, CATDlgTopOrLeft, &b, nullptr);
+    frame.SetVerticalAttachment(1, CATDlgRightOrBottom, &a, &b, nullptr);
+    frame.SetVerticalAttachment(1, CATDlgTopOrLeft, &c, nullptr);
+    const LayoutPlan plan = PlanLayout(frame);
+    EXPECT_EQ(Told(plan, b), "0,0 1x1 14");
+    EXPECT_EQ(Told(plan, a), "0,1 1x1 12") << "whichever was made first";
+    EXPECT_EQ(Told(plan, c), "0,2 1x1 10");
+    EXPECT_EQ(plan.columns, 3);
+}
+
 TEST_F(LayoutPlanTest, GivesOneCellToAChildWhoseLinesAreCrossed) {
     frame.SetVerticalAttachment(5, CATDlgTopOrLeft, &a, nullptr);
     frame.SetVerticalAttachment(1, CATDlgRightOrBottom, &a, nullptr);

@@ -115,6 +115,17 @@ TEST_F(CATDlgSpinnerTest, IsTypedInByAPerson) {
     EXPECT_EQ(Result(DialogUser::TypeValue(spinner, "2.5")), "done");
     EXPECT_EQ(spinner.GetValue(), 2.5);
     EXPECT_EQ(dialog->TakeHeard(), Texts{"SpinnerModify LengthSpn 2"});
+    EXPECT_EQ(Result(DialogUser::TypeValue(spinner, "7,25")), "done");
+    EXPECT_EQ(spinner.GetValue(), 7.25);
+}
+
+TEST_F(CATDlgSpinnerTest, TakesWholeNumbersAloneUnlessItIsMadeForOthers) {
+    CATDlgSpinner& whole = Make<CATDlgSpinner>("WholeSpn", CATDlgSpnEntry);
+    EXPECT_EQ(Result(DialogUser::TypeValue(whole, "2.5")),
+              "Dlg/WholeSpn takes whole numbers, and '2.5' is none");
+    EXPECT_EQ(whole.GetValue(), 0.0);
+    EXPECT_EQ(Result(DialogUser::TypeValue(whole, "2.0")), "done");
+    EXPECT_EQ(whole.GetValue(), 2.0);
 }
 
 TEST_F(CATDlgSpinnerTest, RefusesAPersonWhatItDoesNotTake) {
@@ -141,6 +152,30 @@ TEST_F(CATDlgSpinnerTest, KeepsItsPrecision) {
     EXPECT_EQ(Inspector::RangeOf(spinner).precision, 0);
     spinner.SetPrecision(3, 1);
     EXPECT_EQ(Inspector::RangeOf(spinner).precision, 3);
+}
+
+TEST_F(CATDlgSpinnerTest, ShowsTheDigitsThatItsPrecisionAsksFor) {
+    spinner.SetMinMaxStep(-10.0, 10.0, 1.0, 0);
+    spinner.SetValue(2.625);
+    EXPECT_EQ(Inspector::ShownText(spinner), "2.625");
+    spinner.SetPrecision(0, 0);
+    EXPECT_EQ(Inspector::ShownText(spinner), "3");
+    spinner.SetPrecision(2, 0);
+    spinner.SetValue(2.0);
+    EXPECT_EQ(Inspector::ShownText(spinner), "2.00");
+    EXPECT_EQ(spinner.GetValue(), 2.0);
+}
+
+TEST_F(CATDlgSpinnerTest, NeverShowsMinusZeroNorAnEndlessNumber) {
+    spinner.SetMinMaxStep(-10.0, 10.0, 1.0, 0);
+    spinner.SetPrecision(1, 0);
+    spinner.SetValue(-0.04);
+    EXPECT_EQ(Inspector::ShownText(spinner), "0.0");
+    spinner.SetValue(-0.05001);
+    EXPECT_EQ(Inspector::ShownText(spinner), "-0.1");
+    spinner.SetPrecision(INT_MAX, 0);
+    spinner.SetValue(0.5);
+    EXPECT_EQ(Inspector::ShownText(spinner), "0.500000000000000");
 }
 
 } // namespace

@@ -12,6 +12,8 @@ namespace host {
 //     CATDlgDialog FeatureDlg title="Feature" buttons=OK*,Cancel
 //       CATDlgCombo TypeSelectCombo lines=["Hole", "Counterbore"] selected=1
 //       CATDlgEditor Input1Edt hidden read-only text="Point.1"
+//       ParameterFrame T spinner text="12.5mm"
+//       ParameterFrame D label="D" text="wide" problem="'wide' is not a number"
 //
 // Only what differs from a widget's plain state is written, so that the text is stable enough for golden
 // files.
@@ -23,6 +25,13 @@ class DialogDump {
     static std::string Of(const CATDialog& iWidget, Detail iDetail = Content);
     // All windows below the main window.
     static std::string OfAll(Detail iDetail = Content);
+
+    // Tells what a widget of another framework holds, in the form "key=value key=value"; empty for a widget
+    // that the function does not know.
+    typedef std::string (*Describer)(const CATDialog& iWidget);
+    // Asks iDescriber too about the widgets that have no text of their own here. A describer that is known
+    // already changes nothing.
+    static void DescribeBy(Describer iDescriber);
 };
 
 } // namespace host

@@ -19,6 +19,8 @@ class CATDlgTabPage;
 
 namespace host {
 
+class ValueFrame;
+
 // A person in front of the dialogs. This is the only place that acts as one: tests, replayed sessions and
 // real windows all go through it.
 //
@@ -56,7 +58,16 @@ class DialogUser {
     static Outcome LeaveField(CATDlgEditor& ioEditor);
 
     static Outcome Spin(CATDlgSpinner& ioSpinner, int iSteps);
+    // With a decimal point or comma. Refused for a spinner without field and for a value outside its range.
     static Outcome TypeValue(CATDlgSpinner& ioSpinner, const std::string& iText);
+
+    // Replaces the text in the field. A text that is no value can be typed too: it stays there with the
+    // problem beside it. The value that is shown already is no change.
+    static Outcome Type(ValueFrame& ioFrame, const std::string& iText);
+    // Steps the value with the arrows. Refused where a step leads out of what the value may be.
+    static Outcome Spin(ValueFrame& ioFrame, int iSteps);
+    // Escape in the field: a text that is not taken gives way to the value.
+    static Outcome Restore(ValueFrame& ioFrame);
 
     // Replaces the selection of a list.
     static Outcome Select(CATDlgMultiList& ioList, const std::vector<int>& iLines);
@@ -87,6 +98,7 @@ class DialogUser {
     };
     static Obstacles FindObstacles(const CATDialog& iWidget);
     static bool IsPageBehind(const CATDialog& iWidget);
+    static Outcome CanEdit(const ValueFrame& iFrame);
 };
 
 } // namespace host

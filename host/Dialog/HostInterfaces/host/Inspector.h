@@ -109,6 +109,8 @@ class Inspector {
     };
     static Range RangeOf(const CATDlgSpinner& iSpinner);
     static Range RangeOf(const CATDlgProgress& iProgress);
+    // The value as a person reads it: with the digits behind the point that the precision asks for.
+    static std::string ShownText(const CATDlgSpinner& iSpinner);
 };
 
 } // namespace host

@@ -33,8 +33,14 @@ class MessageCatalogs {
     static std::optional<std::string> Text(const std::string& iCatalog, const std::string& iKey);
     // The same without a copy; null when there is none. Valid until Reset or a change of path or language.
     static const std::string* FindText(std::string_view iCatalog, std::string_view iKey);
+    // The text of iKey, or of iOtherKey where no language has the first one.
+    static const std::string* FindText(std::string_view iCatalog, std::string_view iKey,
+                                       std::string_view iOtherKey);
     // Value of iKey in the resource file of iName; resource files have no languages.
     static std::optional<std::string> Resource(const std::string& iName, const std::string& iKey);
+    // The same without a copy, as FindText gives it.
+    static const std::string* FindResource(std::string_view iName, std::string_view iKey,
+                                           std::string_view iOtherKey);
     // All keys of a catalogue in one language, in alphabetical order; empty without a file.
     static std::vector<std::string> Keys(const std::string& iCatalog, const std::string& iLanguage);
 

@@ -22,6 +22,7 @@ class OrvKvFrom {
 
   private:
     friend class OrvKvLayout;
+    friend class OrvKvUntil;
 
     // The platform's attachment values.
     static constexpr int leadingEdge = 1;
@@ -31,9 +32,21 @@ class OrvKvFrom {
     OrvKvFrom(int iLeading, int iTrailing, int iMode)
         : _leading(iLeading), _trailing(iTrailing), _trailingMode(iMode) {}
 
-    int _leading;
+    int _leading = 0;
+    bool _hasLeading = true;
     int _trailing = 0;
     int _trailingMode = 0; // 0 without a trailing line
+};
+
+// Ends at a line that follows the content, and keeps its natural size.
+class OrvKvUntil : public OrvKvFrom {
+  public:
+    explicit OrvKvUntil(int iTab) : OrvKvUntil(iTab, trailingEdge) {}
+    // The same at a line that follows the container.
+    static OrvKvUntil Stretching(int iTab) { return OrvKvUntil(iTab, stretchingEdge); }
+
+  private:
+    OrvKvUntil(int iTab, int iMode) : OrvKvFrom(0, iTab, iMode) { _hasLeading = false; }
 };
 
 class OrvKvLayout {

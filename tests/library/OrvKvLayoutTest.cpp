@@ -58,6 +58,11 @@ TEST_F(OrvKvLayoutTest, AChildThatStretchesIsAttachedToALineThatFollowsTheContai
     EXPECT_EQ(LinesOfChild(), Lines({{true, 0, 1}, {true, 1, 4}, {false, 1, 1}, {false, 4, 4}}));
 }
 
+TEST_F(OrvKvLayoutTest, AChildThatHasAnEndAloneIsAttachedThereAlone) {
+    OrvKvLayout(_container).Rows(_child, OrvKvUntil(6)).Columns(_child, OrvKvUntil(1));
+    EXPECT_EQ(LinesOfChild(), Lines({{true, 1, 3}, {false, 6, 3}}));
+}
+
 TEST_F(OrvKvLayoutTest, AChildThatCouldNotBeMadeIsLeftOut) {
     OrvKvLayout(_container)
         .Rows(nullptr, OrvKvFrom(0).To(1))

@@ -1,6 +1,7 @@
 #include "OrvKvTypeAndParameterSetSub.h"
 
 #include "CATDlgCombo.h"
+#include "OrvKvComboLines.h"
 #include "OrvKvGuard.h"
 #include "OrvKvLayout.h"
 #include "OrvKvPanelValues.h"
@@ -67,8 +68,7 @@ long OrvKvTypeAndParameterSetSub::SetParameterSetNames(const CATListValCATUnicod
         return OrvKvReport::Failure("parameter set combo is NULL.", OrvKvHere);
     return OrvKvGuard::Run("OrvKvTypeAndParameterSetSub::SetParameterSetNames", OrvKvHere, [&]() -> long {
         _pParameterSetCmb->ClearLine(OrvKvAllLines);
-        for (int name = 1; name <= iNames.Size(); ++name)
-            _pParameterSetCmb->SetLine(iNames[name], OrvKvAtEnd, OrvKvAppend);
+        OrvKvAppendLines(*_pParameterSetCmb, iNames);
         AdjustTextHeight(_pParameterSetCmb, iNames.Size());
         SelectCombo(_pParameterSetCmb, iSelected);
         return OrvKvReport::Success(OrvKvHere);
@@ -89,11 +89,7 @@ void OrvKvTypeAndParameterSetSub::DisableTypes(const unsigned long& iWhat) {
 }
 
 CATUnicodeString OrvKvTypeAndParameterSetSub::GetSelectedParameterSetName() {
-    CATUnicodeString name;
-    const int line = _pParameterSetCmb == nullptr ? -1 : _pParameterSetCmb->GetSelect();
-    if (line >= 0)
-        _pParameterSetCmb->GetLine(name, line);
-    return name;
+    return OrvKvSelectedText(_pParameterSetCmb);
 }
 
 void OrvKvTypeAndParameterSetSub::ShowParameterSetSelector() {

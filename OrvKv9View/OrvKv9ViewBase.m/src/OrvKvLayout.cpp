@@ -13,8 +13,9 @@ CATDialog* const EndOfList = nullptr;
 OrvKvLayout& OrvKvLayout::Rows(CATDialog* iChild, const OrvKvFrom& iLines) {
     if (iChild == nullptr)
         return *this;
-    _container->SetHorizontalAttachment(iLines._leading, Attachment(OrvKvFrom::leadingEdge), iChild,
-                                        EndOfList);
+    if (iLines._hasLeading)
+        _container->SetHorizontalAttachment(iLines._leading, Attachment(OrvKvFrom::leadingEdge), iChild,
+                                            EndOfList);
     if (iLines._trailingMode != 0)
         _container->SetHorizontalAttachment(iLines._trailing, Attachment(iLines._trailingMode), iChild,
                                             EndOfList);
@@ -24,7 +25,9 @@ OrvKvLayout& OrvKvLayout::Rows(CATDialog* iChild, const OrvKvFrom& iLines) {
 OrvKvLayout& OrvKvLayout::Columns(CATDialog* iChild, const OrvKvFrom& iLines) {
     if (iChild == nullptr)
         return *this;
-    _container->SetVerticalAttachment(iLines._leading, Attachment(OrvKvFrom::leadingEdge), iChild, EndOfList);
+    if (iLines._hasLeading)
+        _container->SetVerticalAttachment(iLines._leading, Attachment(OrvKvFrom::leadingEdge), iChild,
+                                          EndOfList);
     if (iLines._trailingMode != 0)
         _container->SetVerticalAttachment(iLines._trailing, Attachment(iLines._trailingMode), iChild,
                                           EndOfList);

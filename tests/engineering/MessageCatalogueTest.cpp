@@ -1,4 +1,4 @@
-// Every group, type and parameter of the shipped catalogue has a text in every language.
+// Every group, type, parameter and rule of the shipped catalogue has a text in every language.
 
 #include "engineering/CatalogueLoader.h"
 
@@ -106,13 +106,45 @@ TEST_P(MessageCatalogueTest, DescribesEachParameterByNameAndByTypeAndName) {
     EXPECT_EQ(KeysOf(TextsOf("OrvKvParametersDescription", GetParam().folder)), expected);
 }
 
+TEST_P(MessageCatalogueTest, TellsWhatIsWrongForEachRuleByTypeAndKey) {
+    std::set<std::string> expected;
+    for (const std::string& group : loaded.catalogue->Groups()) {
+        for (const std::string& type : *loaded.catalogue->TypesOf(group)) {
+            for (const Rule& rule : loaded.catalogue->Type(type)->Rules()) {
+                expected.insert(type + "." + rule.key);
+            }
+        }
+    }
+    EXPECT_GE(expected.size(), 28U);
+    EXPECT_EQ(KeysOf(TextsOf("FeatureRules", GetParam().folder)), expected);
+}
+
+TEST_P(MessageCatalogueTest, TellsWhatIsWrongWithoutParameters) {
+    for (const auto& [key, text] : TextsOf("FeatureRules", GetParam().folder)) {
+        EXPECT_EQ(text.find("/p"), std::string::npos) << key;
+    }
+}
+
 TEST_P(MessageCatalogueTest, TranslatesEveryText) {
-    for (const char* catalogue : {"OrvKvCustomisation", "OrvKvParametersDescription"}) {
+    for (const char* catalogue : {"OrvKvCustomisation", "OrvKvParametersDescription", "FeatureRules"}) {
         const Texts english = TextsOf(catalogue, "");
         const bool isEnglish = std::string(GetParam().folder).empty();
         EXPECT_EQ(SameAsEnglish(TextsOf(catalogue, GetParam().folder), english),
                   isEnglish ? static_cast<int>(english.size()) : 0)
             << catalogue;
+    }
+}
+
+class RuleMessageTest : public MessageCatalogueTest {};
+
+TEST_P(RuleMessageTest, IsTheOneOfTheCatalogue) {
+    const Texts english = TextsOf("FeatureRules", GetParam().folder);
+    for (const std::string& group : loaded.catalogue->Groups()) {
+        for (const std::string& type : *loaded.catalogue->TypesOf(group)) {
+            for (const Rule& rule : loaded.catalogue->Type(type)->Rules()) {
+                EXPECT_EQ(english.at(type + "." + rule.key), rule.message) << type << "." << rule.key;
+            }
+        }
     }
 }
 
@@ -124,5 +156,6 @@ INSTANTIATE_TEST_SUITE_P(Language, MessageCatalogueTest,
                          testing::Values(Language{"English", ""}, Language{"German", "German"},
                                          Language{"French", "French"}, Language{"Japanese", "Japanese"}),
                          LanguageName);
+INSTANTIATE_TEST_SUITE_P(Language, RuleMessageTest, testing::Values(Language{"English", ""}), LanguageName);
 
 } // namespace

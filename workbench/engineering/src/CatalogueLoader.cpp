@@ -3,7 +3,9 @@
 #include "FileReport.h"
 #include "InputTable.h"
 #include "ParameterTable.h"
+#include "RuleTable.h"
 #include "SetTable.h"
+#include "ThreadTable.h"
 #include "TypeTable.h"
 
 #include <algorithm>
@@ -38,42 +40,62 @@ bool EverySetsFileKnown(const TypeTable& types) {
            std::ranges::none_of(types.types, [](const TypeDraft& type) { return type.setsFile.empty(); });
 }
 
-std::vector<FeatureType> ReadFeatureTypes(const fs::path& folder, const GroupTable& groups,
-                                          std::vector<Problem>& problems) {
-    TypeTable types = ReadTypes(folder, groups, problems);
-    ReadParameters(folder, types, problems);
-    ReadInputs(folder, types, problems);
-    if (!IsFolder(folder / "sets", problems)) {
-        return {};
-    }
-    std::vector<FeatureType> result;
-    for (TypeDraft& type : types.types) {
-        if (type.setsFile.empty()) {
-            continue;
+// Reads the files of a catalogue folder one after the other.
+class CatalogueReader {
+  public:
+    CatalogueReader(const fs::path& folder, std::vector<Problem>& problems)
+        : _folder(folder), _problems(problems) {}
+
+    std::optional<FeatureCatalogue> Read() {
+        GroupTable groups = ReadGroups(_folder, _problems);
+        TypeTable types = ReadTypes(_folder, groups, _problems);
+        ReadParameters(_folder, types, _problems);
+        ReadInputs(_folder, types, _problems);
+        _badConditions = ReadRules(_folder, types, _problems);
+        std::optional<ThreadTables> threads = ReadThreads(_folder, _problems);
+        CheckThreadParameters(_folder, types, threads, _problems);
+        std::vector<FeatureType> featureTypes = FeatureTypes(types, threads.value_or(ThreadTables()));
+        if (!IsSound()) {
+            return std::nullopt;
         }
-        std::vector<ParameterSet> sets = ReadSets(folder, type, problems);
-        if (problems.empty()) {
-            result.emplace_back(std::move(type.description), std::move(type.parameters), std::move(sets),
-                                std::move(type.inputs));
+        return FeatureCatalogue(std::move(groups.keys), std::move(featureTypes), std::move(*threads));
+    }
+
+  private:
+    bool IsSound() const { return _problems.size() == _badConditions; }
+
+    std::vector<FeatureType> FeatureTypes(TypeTable& types, const ThreadTables& threads) {
+        if (!IsFolder(_folder / "sets", _problems)) {
+            return {};
         }
+        std::vector<FeatureType> result;
+        for (TypeDraft& type : types.types) {
+            if (type.setsFile.empty()) {
+                continue;
+            }
+            std::vector<ParameterSet> sets = ReadSets(_folder, type, threads, _problems);
+            if (IsSound()) {
+                result.emplace_back(std::move(type.description), std::move(type.parameters), std::move(sets),
+                                    std::move(type.inputs), std::move(type.rules));
+            }
+        }
+        if (EverySetsFileKnown(types)) {
+            ReportForeignSets(_folder, types.types, _problems);
+        }
+        return result;
     }
-    if (EverySetsFileKnown(types)) {
-        ReportForeignSets(folder, types.types, problems);
-    }
-    return result;
-}
+
+    const fs::path& _folder;
+    std::vector<Problem>& _problems;
+    std::size_t _badConditions = 0; ///< problems that concern conditions only
+};
 
 } // namespace
 
 LoadResult CatalogueLoader::Load(const fs::path& folder) {
     LoadResult result;
-    if (!IsFolder(folder, result.problems)) {
-        return result;
-    }
-    GroupTable groups = ReadGroups(folder, result.problems);
-    std::vector<FeatureType> types = ReadFeatureTypes(folder, groups, result.problems);
-    if (result.problems.empty()) {
-        result.catalogue.emplace(std::move(groups.keys), std::move(types));
+    if (IsFolder(folder, result.problems)) {
+        result.catalogue = CatalogueReader(folder, result.problems).Read();
     }
     return result;
 }

@@ -77,6 +77,17 @@ Parsed<std::string> ParseKey(std::string_view text) {
     return Parsed<std::string>::Of(std::string(text));
 }
 
+Parsed<std::string> ParseTableName(std::string_view text, std::string_view folder) {
+    if (text.empty()) {
+        return Parsed<std::string>::Failed("is empty");
+    }
+    if (!text.ends_with(".csv") || text.find('/') != std::string_view::npos || text.starts_with('.')) {
+        return Parsed<std::string>::Failed(Quoted(text) + " is not the name of a .csv file in the folder " +
+                                           std::string(folder));
+    }
+    return Parsed<std::string>::Of(std::string(text));
+}
+
 Parsed<bool> ParseFlag(std::string_view text) {
     if (text != "0" && text != "1") {
         return Parsed<bool>::Failed(Quoted(text) + " is neither 0 nor 1");
@@ -88,6 +99,14 @@ Parsed<double> ParseNumber(std::string_view text) {
     Parsed<double> number = ParseWhole<double>(text, "a number");
     if (number.value && !std::isfinite(*number.value)) {
         return Parsed<double>::Failed(Quoted(text) + " is not a finite number");
+    }
+    return number;
+}
+
+Parsed<double> ParsePositive(std::string_view text) {
+    Parsed<double> number = ParseNumber(text);
+    if (number.value && *number.value <= 0) {
+        return Parsed<double>::Failed(Quoted(text) + " is not above zero");
     }
     return number;
 }

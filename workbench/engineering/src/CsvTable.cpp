@@ -113,27 +113,41 @@ std::optional<CsvTable> CsvTable::Read(const std::filesystem::path& file, FileRe
     return table;
 }
 
-bool CsvTable::ExpectColumns(std::initializer_list<std::string_view> names, FileReport& report) const {
+bool CsvTable::ExpectColumns(std::initializer_list<std::string_view> names, FileReport& report,
+                             std::initializer_list<std::string_view> optional) const {
     bool asExpected = true;
     const auto differ = [&](std::string_view column, const char* message) {
         report.Add(_header.line, std::string(column), message);
         asExpected = false;
     };
-    for (const std::string_view name : names) {
+    const auto expectOnce = [&](std::string_view name, bool mayBeMissing) {
         const auto count = std::ranges::count(_header.cells, name);
-        if (count == 0) {
+        if (count == 0 && !mayBeMissing) {
             differ(name, "the column is missing");
         }
         if (count > 1) {
             differ(name, "the column stands twice");
         }
+    };
+    for (const std::string_view name : names) {
+        expectOnce(name, false);
     }
+    for (const std::string_view name : optional) {
+        expectOnce(name, true);
+    }
+    const auto isIn = [](const auto& list, const std::string& cell) {
+        return std::ranges::find(list, cell) != list.end();
+    };
     for (const std::string& cell : _header.cells) {
-        if (std::ranges::find(names, cell) == names.end()) {
+        if (!isIn(names, cell) && !isIn(optional, cell)) {
             differ(cell, "unknown column");
         }
     }
     return asExpected;
+}
+
+bool CsvTable::HasColumn(std::string_view column) const {
+    return std::ranges::find(_header.cells, column) != _header.cells.end();
 }
 
 const std::string& CsvTable::Cell(const Row& row, std::string_view column) const {

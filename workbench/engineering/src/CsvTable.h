@@ -35,8 +35,12 @@ class CsvTable {
     /// False when lines with a wrong number of cells were left out.
     bool IsComplete() const { return _complete; }
 
-    /// True when the columns are exactly the named ones, in any order; else reports each difference.
-    bool ExpectColumns(std::initializer_list<std::string_view> names, FileReport& report) const;
+    /// True when the columns are exactly the named ones, in any order, apart from optional ones that are not
+    /// there; else reports each difference.
+    bool ExpectColumns(std::initializer_list<std::string_view> names, FileReport& report,
+                       std::initializer_list<std::string_view> optional = {}) const;
+
+    bool HasColumn(std::string_view column) const;
 
     /// The cell of an existing column.
     const std::string& Cell(const Row& row, std::string_view column) const;

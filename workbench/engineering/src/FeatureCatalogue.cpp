@@ -4,8 +4,9 @@
 
 namespace engineering {
 
-FeatureCatalogue::FeatureCatalogue(std::vector<std::string> groups, std::vector<FeatureType> types)
-    : _groups(std::move(groups)), _types(std::move(types)) {
+FeatureCatalogue::FeatureCatalogue(std::vector<std::string> groups, std::vector<FeatureType> types,
+                                   ThreadTables threads)
+    : _groups(std::move(groups)), _types(std::move(types)), _threads(std::move(threads)) {
     for (const std::string& group : _groups) {
         _typesOfGroup[group];
     }

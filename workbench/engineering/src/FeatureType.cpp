@@ -15,9 +15,9 @@ const Named* Find(const Index& index, const std::vector<Named>& all, std::string
 } // namespace
 
 FeatureType::FeatureType(TypeDescription description, std::vector<Parameter> parameters,
-                         std::vector<ParameterSet> sets, std::vector<Input> inputs)
+                         std::vector<ParameterSet> sets, std::vector<Input> inputs, std::vector<Rule> rules)
     : _description(std::move(description)), _parameters(std::move(parameters)), _sets(std::move(sets)),
-      _inputs(std::move(inputs)) {
+      _inputs(std::move(inputs)), _rules(std::move(rules)) {
     for (std::size_t i = 0; i < _parameters.size(); ++i) {
         _parameterIndex.emplace(_parameters[i].name, i);
     }

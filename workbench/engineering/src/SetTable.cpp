@@ -2,9 +2,10 @@
 
 #include "CellText.h"
 #include "CsvTable.h"
+#include "ForeignTables.h"
 #include "SetColumns.h"
 
-#include <algorithm>
+#include <set>
 #include <string>
 #include <system_error>
 #include <unordered_set>
@@ -18,9 +19,9 @@ namespace fs = std::filesystem;
 // Reads the lines of a file of sets one after the other.
 class SetReader {
   public:
-    SetReader(const TypeDraft& type, const CsvTable& table, FileReport& report)
-        : _type(type), _table(table), _columns(ReadSetColumns(type, table.Header(), report)),
-          _report(report) {}
+    SetReader(const TypeDraft& type, const CsvTable& table, const ThreadTables& threads, FileReport& report)
+        : _type(type), _table(table), _threads(threads),
+          _columns(ReadSetColumns(type, table.Header(), report)), _report(report) {}
 
     ParameterSet ReadRow(const CsvTable::Row& row) {
         ParameterSet set;
@@ -76,8 +77,15 @@ class SetReader {
         Parsed<Value> value = ParseValue(text, parameter.magnitude, toBase);
         if (!value.value) {
             Fail(row, column, std::move(value.error));
+        } else if (NamesThread(parameter) && _threads.Find(text).thread == nullptr) {
+            Fail(row, column, "there is no thread " + Quoted(text));
         }
         return std::move(value.value);
+    }
+
+    bool NamesThread(const Parameter& parameter) const {
+        return parameter.name == _type.description.thread && parameter.magnitude == Magnitude::String &&
+               !_threads.Standards().empty();
     }
 
     Tolerance OwnTolerance(const CsvTable::Row& row, const Parameter& parameter,
@@ -99,6 +107,7 @@ class SetReader {
 
     const TypeDraft& _type;
     const CsvTable& _table;
+    const ThreadTables& _threads;
     const SetColumns _columns;
     FileReport& _report;
     std::unordered_set<std::string> _names; ///< names met so far
@@ -106,7 +115,7 @@ class SetReader {
 
 } // namespace
 
-std::vector<ParameterSet> ReadSets(const fs::path& folder, const TypeDraft& type,
+std::vector<ParameterSet> ReadSets(const fs::path& folder, const TypeDraft& type, const ThreadTables& threads,
                                    std::vector<Problem>& problems) {
     FileReport typeReport(folder / "types.csv", problems);
     const fs::path file = folder / "sets" / type.setsFile;
@@ -120,7 +129,7 @@ std::vector<ParameterSet> ReadSets(const fs::path& folder, const TypeDraft& type
     if (!table) {
         return {};
     }
-    SetReader reader(type, *table, report);
+    SetReader reader(type, *table, threads, report);
     std::vector<ParameterSet> sets;
     for (const CsvTable::Row& row : table->Rows()) {
         sets.push_back(reader.ReadRow(row));
@@ -133,19 +142,12 @@ std::vector<ParameterSet> ReadSets(const fs::path& folder, const TypeDraft& type
 
 void ReportForeignSets(const fs::path& folder, const std::vector<TypeDraft>& types,
                        std::vector<Problem>& problems) {
-    std::vector<fs::path> foreign;
-    std::error_code error;
-    fs::directory_iterator entry(folder / "sets", error);
-    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        const std::string name = entry->path().filename().string();
-        if (name.ends_with(".csv") && std::ranges::find(types, name, &TypeDraft::setsFile) == types.end()) {
-            foreign.push_back(entry->path());
-        }
+    std::set<std::string> known;
+    for (const TypeDraft& type : types) {
+        known.insert(type.setsFile);
     }
-    std::ranges::sort(foreign);
-    for (const fs::path& file : foreign) {
-        FileReport(file, problems).Add(0, {}, "holds sets of an unknown type: no line of types.csv names it");
-    }
+    ReportForeignTables(folder / "sets", known,
+                        "holds sets of an unknown type: no line of types.csv names it", problems);
 }
 
 } // namespace engineering

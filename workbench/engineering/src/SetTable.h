@@ -5,15 +5,17 @@
 #include "TypeTable.h"
 #include "engineering/ParameterSet.h"
 #include "engineering/Problem.h"
+#include "engineering/ThreadTables.h"
 
 #include <filesystem>
 #include <vector>
 
 namespace engineering {
 
-/// The sets of the type's file in the folder sets; to be used only when no problem was added.
+/// The sets of the type's file in the folder sets; to be used only when no problem was added. The thread of
+/// each set must be among the threads, where there are any.
 std::vector<ParameterSet> ReadSets(const std::filesystem::path& folder, const TypeDraft& type,
-                                   std::vector<Problem>& problems);
+                                   const ThreadTables& threads, std::vector<Problem>& problems);
 
 /// Reports files in the folder sets that belong to no type.
 void ReportForeignSets(const std::filesystem::path& folder, const std::vector<TypeDraft>& types,

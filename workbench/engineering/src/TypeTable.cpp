@@ -9,6 +9,8 @@ namespace engineering {
 
 namespace {
 
+constexpr const char* threadColumn = "thread";
+
 bool Contains(const std::vector<std::string>& keys, std::string_view key) {
     return std::ranges::find(keys, key) != keys.end();
 }
@@ -34,7 +36,10 @@ class TypeReader {
         TypeDraft type;
         type.line = row.line;
         type.setsFile = SetsFile(row);
-        type.description = {{}, Group(row), _table.Cell(row, "standard"), _table.Cell(row, "note")};
+        type.description = {{}, Group(row), _table.Cell(row, "standard"), _table.Cell(row, "note"), {}};
+        if (_table.HasColumn(threadColumn)) {
+            type.description.thread = _table.Cell(row, threadColumn);
+        }
         const Parsed<std::string> key = ParseKey(_table.Cell(row, "key"));
         if (!key.value) {
             _report.Add(row.line, "key", key.error);
@@ -62,21 +67,16 @@ class TypeReader {
     }
 
     std::string SetsFile(const CsvTable::Row& row) {
-        const std::string& file = _table.Cell(row, "sets");
-        if (file.empty()) {
-            _report.Add(row.line, "sets", "is empty");
+        Parsed<std::string> file = ParseTableName(_table.Cell(row, "sets"), "sets");
+        if (!file.value) {
+            _report.Add(row.line, "sets", std::move(file.error));
             return {};
         }
-        if (!file.ends_with(".csv") || file.find('/') != std::string::npos || file.starts_with('.')) {
-            _report.Add(row.line, "sets",
-                        Quoted(file) + " is not the name of a .csv file in the folder sets");
+        if (std::ranges::find(_result.types, *file.value, &TypeDraft::setsFile) != _result.types.end()) {
+            _report.Add(row.line, "sets", Quoted(*file.value) + " already holds the sets of another type");
             return {};
         }
-        if (std::ranges::find(_result.types, file, &TypeDraft::setsFile) != _result.types.end()) {
-            _report.Add(row.line, "sets", Quoted(file) + " already holds the sets of another type");
-            return {};
-        }
-        return file;
+        return std::move(*file.value);
     }
 
     const CsvTable& _table;
@@ -97,6 +97,11 @@ void ReportEmptyGroups(const GroupTable& groups, const std::vector<TypeDraft>& t
 }
 
 } // namespace
+
+const Parameter* TypeDraft::FindParameter(std::string_view name) const {
+    const auto found = std::ranges::find(parameters, name, &Parameter::name);
+    return found == parameters.end() ? nullptr : &*found;
+}
 
 TypeDraft* TypeTable::Find(std::string_view key) {
     const auto found =
@@ -136,7 +141,8 @@ TypeTable ReadTypes(const std::filesystem::path& folder, const GroupTable& group
                     std::vector<Problem>& problems) {
     FileReport report(folder / "types.csv", problems);
     const std::optional<CsvTable> table = CsvTable::Read(folder / "types.csv", report);
-    if (!table || !table->ExpectColumns({"key", "group", "sets", "standard", "note"}, report)) {
+    if (!table ||
+        !table->ExpectColumns({"key", "group", "sets", "standard", "note"}, report, {threadColumn})) {
         return {};
     }
     TypeReader reader(*table, groups, report);

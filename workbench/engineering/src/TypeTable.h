@@ -6,6 +6,7 @@
 #include "engineering/Input.h"
 #include "engineering/Parameter.h"
 #include "engineering/Problem.h"
+#include "engineering/Rule.h"
 
 #include <filesystem>
 #include <set>
@@ -29,7 +30,11 @@ struct TypeDraft {
     std::vector<Parameter> parameters; ///< in the order of parameters.csv
     std::set<std::string> unsound;     ///< names of parameters with a definition that cannot be used
     std::vector<Input> inputs;         ///< in the order of their numbers, once all are read
+    std::vector<Rule> rules;           ///< in the order of rules.csv
     bool parametersComplete = true;    ///< false when a parameter may be missing from the list
+
+    /// The parameter of that exact name, or nullptr.
+    const Parameter* FindParameter(std::string_view name) const;
 };
 
 struct TypeTable {

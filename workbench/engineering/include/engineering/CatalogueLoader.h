@@ -1,13 +1,15 @@
 #pragma once
 
-// Reads a catalogue folder and checks it whole: a catalogue is loaded without any problem, or not at all.
+// Reads a catalogue folder and checks it whole: a catalogue is loaded without any problem but conditions of
+// rules that cannot be used, or not at all.
 //
 //   LoadResult result = CatalogueLoader::Load("workbench/catalogue");
 //   for (const Problem& problem : result.problems)
 //       std::cerr << ToText(problem) << '\n';
 //
-// The folder holds groups.csv, types.csv, parameters.csv, the folder sets and, where types have geometry
-// inputs, inputs.csv; its README.md describes them. Files are UTF-8, at most 64 MiB each, with or without
+// The folder holds groups.csv, types.csv, parameters.csv and the folder sets; inputs.csv where types have
+// geometry inputs, rules.csv where they have rules, threads.csv and the folder threads where they have
+// threads. Its README.md describes them. Files are UTF-8, at most 64 MiB each, with or without
 // byte order mark, lines ending in LF or CRLF.
 
 #include "engineering/FeatureCatalogue.h"
@@ -20,8 +22,10 @@
 namespace engineering {
 
 struct LoadResult {
-    std::optional<FeatureCatalogue> catalogue; ///< present exactly when there are no problems
-    std::vector<Problem> problems;             ///< everything found, in the order of reading
+    /// Present exactly when every problem concerns the condition of a rule. Such a rule tells its problem and
+    /// is not checked; all else of the catalogue is sound.
+    std::optional<FeatureCatalogue> catalogue;
+    std::vector<Problem> problems; ///< everything found, in the order of reading
 };
 
 class CatalogueLoader {

@@ -7,6 +7,7 @@
 //       for (const std::string& type : *result.catalogue->TypesOf(group)) ...
 
 #include "engineering/FeatureType.h"
+#include "engineering/ThreadTables.h"
 
 #include <cstddef>
 #include <map>
@@ -19,7 +20,8 @@ namespace engineering {
 class FeatureCatalogue {
   public:
     /// Takes everything over. Keys are unique and every type names one of the groups.
-    FeatureCatalogue(std::vector<std::string> groups, std::vector<FeatureType> types);
+    FeatureCatalogue(std::vector<std::string> groups, std::vector<FeatureType> types,
+                     ThreadTables threads = {});
 
     /// Group keys in the order they are shown.
     const std::vector<std::string>& Groups() const { return _groups; }
@@ -36,9 +38,13 @@ class FeatureCatalogue {
     /// The named set of the type, or nullptr for an unknown type or name.
     const ParameterSet* FindSet(std::string_view type, std::string_view name) const;
 
+    /// The threads that features with a thread choose from; no standards where the catalogue has none.
+    const ThreadTables& Threads() const { return _threads; }
+
   private:
     std::vector<std::string> _groups;
     std::vector<FeatureType> _types;
+    ThreadTables _threads;
     std::map<std::string, std::vector<std::string>, std::less<>> _typesOfGroup; ///< group key to type keys
     std::map<std::string, std::size_t, std::less<>> _typeIndex;                 ///< type key to position
 };

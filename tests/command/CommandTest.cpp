@@ -5,12 +5,17 @@
 #include "CATDlgEditor.h"
 #include "CATDlgMultiList.h"
 #include "CATDlgPushButton.h"
+#include "CATDlgRadioButton.h"
+#include "CATDlgTabPage.h"
 #include "engineering/CatalogueLoader.h"
 #include "engineering/PartLoader.h"
 #include "host/DialogPath.h"
 #include "host/DialogUser.h"
 #include "host/EventScope.h"
+#include "host/Inspector.h"
 #include "host/MessageCatalogs.h"
+#include "host/Preferences.h"
+#include "host/ValueFrame.h"
 
 #include <ostream>
 #include <stdexcept>
@@ -48,10 +53,12 @@ CommandTest::CommandTest() {
     for (const char* folder :
          {KELVANE_LIBRARY_MESSAGES, KELVANE_WORKBENCH_MESSAGES, KELVANE_CATALOGUE_MESSAGES})
         host::MessageCatalogs::AddFolder(folder);
+    host::Preferences::KeepInMemory();
 }
 
 CommandTest::~CommandTest() {
     host::Application::SetActiveCommand(nullptr);
+    host::Preferences::Withdraw();
 }
 
 const engineering::FeatureCatalogue& CommandTest::Shipped() {
@@ -100,6 +107,10 @@ host::Outcome CommandTest::ChooseSet(int iLine) {
     return Choose("ParameterSetCmb", iLine);
 }
 
+host::Outcome CommandTest::ChooseText(const std::string& iCombo, const std::string& iText) {
+    return host::DialogUser::ChooseText(Combo(iCombo), iText);
+}
+
 host::Outcome CommandTest::SelectSet(int iRow) {
     return host::DialogUser::Select(List("ParameterSetMul"), {iRow});
 }
@@ -109,7 +120,7 @@ host::Outcome CommandTest::PressPushButton(const std::string& iName) {
 }
 
 host::Outcome CommandTest::PressButton(CATULong iButton) {
-    return host::DialogUser::PressStandardButton(Find<CATDlgDialog>("FeatureDialog"), iButton);
+    return host::DialogUser::PressStandardButton(Find<CATDlgDialog>("MainPanel"), iButton);
 }
 
 CATDlgCombo& CommandTest::Combo(const std::string& iName) {
@@ -170,6 +181,65 @@ std::string CommandTest::RowOf(const std::string& iParameter) {
 std::string CommandTest::Input(int iNumber) {
     const auto& editor = Find<CATDlgEditor>("Input" + std::to_string(iNumber) + "Edt");
     return host::DialogUser::CanSee(editor) ? editor.GetText().ConvertToUTF8() : "hidden";
+}
+
+host::Outcome CommandTest::ShowPage(const std::string& iPage) {
+    return host::DialogUser::ShowPage(Find<CATDlgTabPage>(iPage));
+}
+
+host::ValueFrame& CommandTest::Field(const std::string& iFrame) {
+    for (CATDialog* child : host::Inspector::Children(Find<CATDlgFrame>(iFrame)))
+        if (auto* const field = dynamic_cast<host::ValueFrame*>(child))
+            return *field;
+    throw std::runtime_error(iFrame + " has no field");
+}
+
+std::string CommandTest::Thread() {
+    const auto chosen = [](const std::string& iCombo) {
+        const int line = Combo(iCombo).GetSelect();
+        return line < 0 ? "none" : LinesOf(iCombo)[static_cast<std::size_t>(line)];
+    };
+    const bool isStandard = host::DialogPath::Find("DiameterCmb").widget != nullptr;
+    const bool isRight = Find<CATDlgRadioButton>("RightHandedRdb").GetState() == CATDlgCheck;
+    const bool isLeft = Find<CATDlgRadioButton>("LeftHandedRdb").GetState() == CATDlgCheck;
+    std::string shown = chosen("ThreadTypeCmb");
+    for (const std::string& text :
+         {isStandard ? chosen("DiameterCmb") : Field("ThreadDiaFrm").Text(), Field("InternalDiaFrm").Text(),
+          Field("ThreadLengthFrm").Text(), Field("PitchFrm").Text(),
+          std::string(isRight  ? "right"
+                      : isLeft ? "left"
+                               : "none")})
+        shown += "|" + text;
+    return shown;
+}
+
+Texts CommandTest::RuleMessages() {
+    const auto& editor = Find<CATDlgEditor>("KelvaneRules");
+    Texts messages;
+    for (int line = 0; line < editor.GetLineCount(); ++line) {
+        CATUnicodeString text;
+        editor.GetLine(text, line);
+        messages.emplace_back(text.ConvertToUTF8());
+    }
+    return messages;
+}
+
+std::string CommandTest::Light() {
+    return host::Inspector::Icons(Find<CATDialog>("Label003")).normal;
+}
+
+Texts CommandTest::TakeHeardClasses() {
+    const std::string suffix = "Notification";
+    Texts classes;
+    for (const HeardNotification& heard : TakeHeard()) {
+        std::string name = heard.className;
+        if (name.starts_with("OrvKv"))
+            name.erase(0, 5);
+        if (name.ends_with(suffix))
+            name.resize(name.size() - suffix.size());
+        classes.push_back(name);
+    }
+    return classes;
 }
 
 std::vector<HeardNotification> CommandTest::TakeHeard() {

@@ -14,6 +14,10 @@
 class CATDlgCombo;
 class CATDlgMultiList;
 
+namespace host {
+class ValueFrame;
+}
+
 namespace command {
 
 using Texts = std::vector<std::string>;
@@ -48,6 +52,8 @@ class CommandTest : public support::AuditedTest {
     static host::Outcome ChooseType(int iLine);
     // A line of the selector's combo, which only mode Parameters shows.
     static host::Outcome ChooseSet(int iLine);
+    // A line of any combo by its text.
+    static host::Outcome ChooseText(const std::string& iCombo, const std::string& iText);
     // A row of the table of sets, which only mode Sets has.
     static host::Outcome SelectSet(int iRow);
     static host::Outcome PressPushButton(const std::string& iName);
@@ -65,8 +71,21 @@ class CommandTest : public support::AuditedTest {
     // What input 1, 2 or 3 shows; "hidden" when it is.
     static std::string Input(int iNumber);
 
+    // Brings a page of the lower part to the front.
+    static host::Outcome ShowPage(const std::string& iPage);
+    // The field of a value, named by the frame that it is in.
+    static host::ValueFrame& Field(const std::string& iFrame);
+    // What the thread page shows: type, diameter, internal diameter, length, pitch and direction, with a bar
+    // between them.
+    static std::string Thread();
+    // The messages of the rules, and the icon of the traffic light.
+    static Texts RuleMessages();
+    static std::string Light();
+
     // What the command has heard since the last call.
     std::vector<HeardNotification> TakeHeard();
+    // The classes of what it has heard, without "OrvKv" and "Notification".
+    Texts TakeHeardClasses();
 
   private:
     workbench::PanelNotificationReader _reader;

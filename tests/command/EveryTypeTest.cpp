@@ -68,12 +68,13 @@ TEST_P(EveryTypeTest, CanBeChosenAndEverySetIsListed) {
 
 TEST_P(EveryTypeTest, TheDialogSpeaksTheLanguage) {
     ASSERT_TRUE(Start());
-    for (const char* catalogue : {"FeatureCommand", "FeatureDialog", "OrvKvParametersDescription"}) {
+    for (const char* catalogue :
+         {"FeatureCommand", "OrvKvMainPanel", "OrvKvParametersDescription", "FeatureRules"}) {
         const Texts keys = host::MessageCatalogs::Keys(catalogue, "");
         EXPECT_FALSE(keys.empty());
         EXPECT_EQ(host::MessageCatalogs::Keys(catalogue, GetParam().folder), keys);
     }
-    EXPECT_EQ(host::MessageCatalogs::Text("FeatureDialog", "Title"), GetParam().title);
+    EXPECT_EQ(host::MessageCatalogs::Text("OrvKvMainPanel", "Title"), GetParam().title);
     EXPECT_TRUE(host::MessageCatalogs::Problems().empty());
 }
 

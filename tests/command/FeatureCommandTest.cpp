@@ -35,15 +35,20 @@ HeardNotification SetSelected(const char* iName) {
 
 using AllHeard = std::vector<HeardNotification>;
 
+const HeardNotification threadPageMade =
+    Heard("OrvKvThreadInitNotification",
+          {{"initMode", true}, {"type", ""}, {"dimension", ""}, {"pitch", 0.0}, {"activateMode", false}});
+const HeardNotification isValid = Heard("OrvKvTriggerStateChangeToValidNotification");
+
 } // namespace
 
 class FeatureCommandTest : public CommandTest {};
 
 TEST_F(FeatureCommandTest, OpensWithTheFirstGroupTypeAndSet) {
     ASSERT_TRUE(Start());
-    EXPECT_EQ(TakeHeard(), AllHeard({Heard("OrvKvGroupChangedNotification", {{"group", 1}}),
+    EXPECT_EQ(TakeHeard(), AllHeard({threadPageMade, Heard("OrvKvGroupChangedNotification", {{"group", 1}}),
                                      TypeSelected(1, 1, "ClearanceHole", "Clearance hole (ISO 273)"),
-                                     SetSelected("ISO 273 M1.6 fine")}));
+                                     SetSelected("ISO 273 M1.6 fine"), isValid}));
     EXPECT_EQ(LinesOf("GroupCmb"),
               Texts({"Screw holes and countersinks", "Tapped holes and thread undercuts",
                      "Centre holes and keyways", "Grooves for seals and retaining rings"}));
@@ -57,10 +62,10 @@ TEST_F(FeatureCommandTest, ShowsTheWholeDialogInBothModes) {
     ASSERT_TRUE(Start(FeatureCommand::Mode::Parameters));
     ASSERT_TRUE(ChooseType(1));
     ASSERT_TRUE(ChooseSet(1));
-    EXPECT_TRUE(support::MatchesGolden("FeatureDialog-parameters", host::DialogDump::OfAll()));
+    EXPECT_TRUE(support::MatchesGolden("Command-parameters", host::DialogDump::OfAll()));
     ASSERT_TRUE(Start(FeatureCommand::Mode::Sets));
     ASSERT_TRUE(ChooseType(3));
-    EXPECT_TRUE(support::MatchesGolden("FeatureDialog-sets", host::DialogDump::OfAll()));
+    EXPECT_TRUE(support::MatchesGolden("Command-sets", host::DialogDump::OfAll()));
 }
 
 TEST_F(FeatureCommandTest, AnswersATypeWithItsSets) {
@@ -70,7 +75,7 @@ TEST_F(FeatureCommandTest, AnswersATypeWithItsSets) {
     EXPECT_EQ(LinesOf("ParameterSetCmb").size(), 31U);
     EXPECT_TRUE(ChooseSet(1));
     EXPECT_EQ(TakeHeard(), AllHeard({TypeSelected(1, 3, "CountersinkDin74", "Countersink (DIN 74)"),
-                                     SetSelected(LinesOf("ParameterSetCmb")[0].c_str()),
+                                     SetSelected(LinesOf("ParameterSetCmb")[0].c_str()), isValid,
                                      SetSelected(LinesOf("ParameterSetCmb")[1].c_str())}));
     EXPECT_EQ(Command().SetName(), LinesOf("ParameterSetCmb")[1]);
 }
@@ -109,12 +114,12 @@ TEST_P(EndingTest, EndsTheCommandAndTakesTheDialogAway) {
     ASSERT_TRUE(Start());
     int ended = 0;
     Command().WhenEnded([&ended] { ++ended; });
-    auto& dialog = dynamic_cast<CATDlgDialog&>(*host::DialogPath::Find("FeatureDialog").widget);
+    auto& dialog = dynamic_cast<CATDlgDialog&>(*host::DialogPath::Find("MainPanel").widget);
     EXPECT_TRUE(GetParam().end(dialog));
     EXPECT_EQ(ended, 1);
     EXPECT_EQ(Command().CurrentState(), GetParam().state);
     EXPECT_EQ(host::Inspector::Windows().size(), 0U);
-    EXPECT_EQ(host::DialogPath::Find("FeatureDialog").widget, nullptr);
+    EXPECT_EQ(host::DialogPath::Find("MainPanel").widget, nullptr);
 }
 
 const Ending endings[] = {
@@ -126,20 +131,43 @@ const Ending endings[] = {
      FeatureCommand::State::Cancelled},
     {"close box", [](CATDlgDialog& ioDialog) { return host::DialogUser::Close(ioDialog); },
      FeatureCommand::State::Cancelled},
-    {"Enter", [](CATDlgDialog& ioDialog) { return host::DialogUser::PressEnter(ioDialog); },
-     FeatureCommand::State::Accepted},
     {"Escape", [](CATDlgDialog& ioDialog) { return host::DialogUser::PressEscape(ioDialog); },
      FeatureCommand::State::Cancelled},
 };
 
 INSTANTIATE_TEST_SUITE_P(Ways, EndingTest, testing::ValuesIn(endings));
 
+TEST_F(FeatureCommandTest, EnterDoesNotEndIt) {
+    ASSERT_TRUE(Start());
+    auto& dialog = dynamic_cast<CATDlgDialog&>(*host::DialogPath::Find("MainPanel").widget);
+    EXPECT_FALSE(host::DialogUser::PressEnter(dialog));
+    EXPECT_EQ(Command().CurrentState(), FeatureCommand::State::Running);
+}
+
+// The place is remembered from one dialog to the next.
+TEST_F(FeatureCommandTest, OpensWhereItWasMovedTo) {
+    ASSERT_TRUE(Start());
+    const auto place = [] {
+        int x = 0;
+        int y = 0;
+        int height = 0;
+        int width = 0;
+        host::DialogPath::Find("MainPanel").widget->GetRectDimensions(&x, &y, &height, &width);
+        return std::vector<int>{x, y, height, width};
+    };
+    EXPECT_EQ(place(), std::vector<int>({0, 0, 640, 670}));
+    auto& dialog = dynamic_cast<CATDlgDialog&>(*host::DialogPath::Find("MainPanel").widget);
+    EXPECT_TRUE(host::DialogUser::Move(dialog, 30, 40));
+    ASSERT_TRUE(Start());
+    EXPECT_EQ(place(), std::vector<int>({30, 40, 640, 670}));
+}
+
 TEST_F(FeatureCommandTest, LetsNotificationsThatAreNotItsOwnClimbOn) {
     ASSERT_TRUE(Start());
     TakeHeard();
-    auto& dialog = dynamic_cast<CATDlgDialog&>(*host::DialogPath::Find("FeatureDialog").widget);
-    EXPECT_TRUE(host::DialogUser::Move(dialog, 30, 40));
-    EXPECT_EQ(TakeHeard(), AllHeard({Heard("CATDlgWindMoveNotification")}));
+    auto& dialog = dynamic_cast<CATDlgDialog&>(*host::DialogPath::Find("MainPanel").widget);
+    EXPECT_TRUE(host::DialogUser::Resize(dialog, 700, 800));
+    EXPECT_EQ(TakeHeard(), AllHeard({Heard("CATDlgWindSizeNotification")}));
     EXPECT_EQ(Command().CurrentState(), FeatureCommand::State::Running);
 }
 
@@ -147,11 +175,10 @@ TEST_F(FeatureCommandTest, RefusesWhatIsNotThereAndStaysAsItIs) {
     ASSERT_TRUE(Start());
     TakeHeard();
     EXPECT_EQ(ChooseGroup(4).reason,
-              "FeatureDialog/FeatureFrm/OrvKvGroupAndGeometrySub/GroupCmb has no line 4, it has 4");
-    EXPECT_EQ(
-        ChooseSet(-1).reason,
-        "FeatureDialog/FeatureFrm/OrvKvTypeAndParameterSetSub/ParameterSetCmb has no line -1, it has 60");
-    EXPECT_EQ(PressButton(CATDlgWndAPPLY).reason, "FeatureDialog has no button Apply");
+              "MainPanel/GroupFrm/OrvKvGroupAndGeometrySub/GroupCmb has no line 4, it has 4");
+    EXPECT_EQ(ChooseSet(-1).reason,
+              "MainPanel/GroupFrm/OrvKvTypeAndParameterSetSub/ParameterSetCmb has no line -1, it has 60");
+    EXPECT_EQ(PressButton(CATDlgWndCLOSE).reason, "MainPanel has no button Close");
     EXPECT_EQ(TakeHeard(), AllHeard());
     EXPECT_EQ(Command().SetName(), "ISO 273 M1.6 fine");
     EXPECT_TRUE(ChooseSet(1));
@@ -183,7 +210,7 @@ TEST_F(FeatureCommandTest, ACatalogueWithoutGroupsOpensAnEmptyDialog) {
     for (const FeatureCommand::Mode mode : {FeatureCommand::Mode::Parameters, FeatureCommand::Mode::Sets}) {
         ASSERT_TRUE(Start(mode, catalogue));
         EXPECT_EQ(LinesOf("GroupCmb"), Texts());
-        EXPECT_EQ(TakeHeard(), AllHeard());
+        EXPECT_EQ(TakeHeard(), AllHeard({threadPageMade}));
         EXPECT_TRUE(PressButton(CATDlgWndCANCEL));
     }
 }

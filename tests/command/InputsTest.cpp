@@ -35,7 +35,7 @@ TEST_F(InputsTest, ShowsTheInputsThatTheTypeHas) {
     ASSERT_TRUE(Start());
     EXPECT_EQ(Inputs(), Texts({"No selection", "No selection", "hidden"}));
     EXPECT_EQ(PressPushButton("Input3Pbt").reason,
-              "FeatureDialog/FeatureFrm/OrvKvGroupAndGeometrySub/InsertionEditorSub/Input3Pbt is hidden");
+              "MainPanel/GroupFrm/OrvKvGroupAndGeometrySub/InsertionEditorSub/Input3Pbt is hidden");
     ASSERT_TRUE(ChooseGroup(1));
     EXPECT_EQ(Inputs(), Texts({"No selection", "No selection", "No selection"}));
 }

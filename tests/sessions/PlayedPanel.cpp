@@ -13,14 +13,18 @@
 #include "CATDlgSpinner.h"
 #include "CATDlgTabContainer.h"
 #include "CATDlgTabPage.h"
+#include "CATICkeParamFrame.h"
 #include "OrvKv9Trace.h"
+#include "host/Parameters.h"
 
 #include <algorithm>
 #include <cctype>
 
 namespace sessions {
 
-Panel::Panel(CATDialog* iParent) : CATDlgDialog(iParent, "Panel", CATDlgWndOK | CATDlgWndCANCEL) {
+Panel::Panel(CATDialog* iParent)
+    : CATDlgDialog(iParent, "Panel", CATDlgWndOK | CATDlgWndCANCEL),
+      depth(host::Parameters::NewLength("DEPTH", 12.5)) {
     auto* const top = new CATDlgFrame(this, "TopFrm");
     (new CATDlgLabel(top, "HintLab"))->SetTitle("Choose a type");
     type = new CATDlgCombo(top, "TypeCmb");
@@ -41,6 +45,7 @@ Panel::Panel(CATDialog* iParent) : CATDlgDialog(iParent, "Panel", CATDlgWndOK | 
         rows->SetColumnItem(1, "10mm");
     }
     go = new CATDlgPushButton(top, "GoPbt");
+    CATICkeParamFrame_var(depth)->BuildFrame(NULL_var, top, CATCkeWithSpinner, "DepthFrm");
     auto* const pages = new CATDlgTabContainer(this, "Pages");
     new CATDlgEditor(new CATDlgTabPage(pages, "FirstPge"), "PlainEdt");
     new CATDlgEditor(new CATDlgTabPage(pages, "SecondPge"), "DeepEdt");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CATDlgDialog.h"
+#include "CATICkeParm.h"
 #include "session/NotificationReader.h"
 #include "session/Player.h"
 #include "support/ApplicationTest.h"
@@ -33,7 +34,8 @@ class Panel : public CATDlgDialog {
     CATDlgRadioButton* one;
     CATDlgRadioButton* two;
     CATDlgSpinner* count;
-    CATDlgMultiList* rows; // two columns, several rows can be selected
+    const CATICkeParm_var depth; // 12.5 mm, edited in the frame "DepthFrm" with arrows
+    CATDlgMultiList* rows;       // two columns, several rows can be selected
     CATDlgPushButton* go;
 
   private:

@@ -137,6 +137,11 @@ const Wrong wrongExpectations[] = {
      "Panel/TopFrm/RowsMul is a CATDlgMultiList and has no column 2, it has 2"},
     {R"({"expect":"columns","at":"RowsMul","is":["x"]})", "columns of RowsMul", R"(["x"])",
      R"(["Name","Value"])"},
+    {R"({"expect":"text","at":"DepthFrm","is":"12.5 mm"})", "text of DepthFrm", R"("12.5 mm")",
+     R"("12.5mm")"},
+    {R"({"expect":"problem","at":"DepthFrm","is":"x"})", "problem of DepthFrm", R"("x")", R"("")"},
+    {R"({"expect":"problem","at":"NameEdt","is":""})", "problem of NameEdt", R"("")",
+     "Panel/TopFrm/NameEdt is a CATDlgEditor and has no problem"},
     {R"({"expect":"checked","at":"FlagCkb","is":true})", "checked of FlagCkb", "true", "false"},
     {R"({"expect":"checked","at":"NameEdt","is":true})", "checked of NameEdt", "true",
      "Panel/TopFrm/NameEdt is a CATDlgEditor and has no check mark"},
@@ -196,6 +201,8 @@ const Refused refusedSteps[] = {
     {R"({"do":"page","at":"TopFrm"})", "Panel/TopFrm is a CATDlgFrame, no tab page"},
     {R"({"do":"move","at":"TopFrm","x":1,"y":1})", "Panel/TopFrm is a CATDlgFrame, no window"},
     {R"({"do":"close","at":"TopFrm"})", "Panel/TopFrm is a CATDlgFrame, no window"},
+    {R"({"do":"type","at":"DepthFrm","text":"1\n2"})", "Panel/TopFrm/DepthFrm takes one line"},
+    {R"({"do":"escape","at":"GoPbt"})", "Panel/TopFrm/GoPbt is a CATDlgPushButton, no value field or dialog"},
     {R"({"do":"type","at":"DeepEdt","text":"x"})",
      "Panel/Pages/SecondPge/DeepEdt is on the page Panel/Pages/SecondPge, which is not in front"},
 };
@@ -208,6 +215,47 @@ TEST_F(PlayerTest, AFailedExpectationDoesNotEndTheSession) {
 {"expect":"text","at":"NameEdt","is":"c"})"),
               Texts({"s:1: text of NameEdt\n  expected: \"a\"\n  actual:   \"\"",
                      "s:3: text of NameEdt\n  expected: \"c\"\n  actual:   \"b\""}));
+}
+
+TEST_F(PlayerTest, AParameterIsTypedSteppedAndRestored) {
+    EXPECT_EQ(Play(R"({"expect":"text","at":"DepthFrm","is":"12.5mm"}
+{"do":"type","at":"DepthFrm","text":"1/2 in"}
+{"expect":"text","at":"DepthFrm","is":"12.7mm"}
+{"expect":"problem","at":"DepthFrm","is":""}
+{"do":"spin","at":"DepthFrm","steps":-2}
+{"expect":"text","at":"DepthFrm","is":"10.7mm"}
+{"do":"type","at":"DepthFrm","text":"wide"}
+{"expect":"text","at":"DepthFrm","is":"wide"}
+{"expect":"problem","at":"DepthFrm","is":"'wide' is not a number"}
+{"do":"escape","at":"DepthFrm"}
+{"expect":"text","at":"DepthFrm","is":"10.7mm"}
+{"expect":"problem","at":"DepthFrm","is":""}
+{"expect":"enabled","at":"DepthFrm","is":true}
+{"expect":"widget","at":"DepthFrm","is":"ParameterFrame"})"),
+              Held());
+    EXPECT_EQ(ThePanel().depth->Show(), "10.7mm");
+}
+
+TEST_F(PlayerTest, AParameterThatTheUserMayNotEditIsRefused) {
+    ThePanel().depth->SetUserAccessMode(1);
+    for (const char* line :
+         {R"({"do":"type","at":"DepthFrm","text":"8"})", R"({"do":"spin","at":"DepthFrm","steps":1})"})
+        EXPECT_EQ(Play(line), Texts({"s:1: refused: Panel/TopFrm/DepthFrm is read-only"}));
+    EXPECT_EQ(ThePanel().depth->Show(), "12.5mm");
+}
+
+TEST_F(PlayerTest, EscapeCancelsADialog) {
+    EXPECT_EQ(Play(R"({"do":"escape","at":"Panel"}
+{"expect":"notified","class":"CATDlgDiaCANCELNotification","times":1})"),
+              Held());
+}
+
+TEST_F(PlayerTest, ASpinnerIsReadWithItsPrecision) {
+    ThePanel().count->SetPrecision(0, 0);
+    EXPECT_EQ(Play(R"({"do":"type","at":"CountSpn","text":"2,75"}
+{"expect":"text","at":"CountSpn","is":"3"})"),
+              Held());
+    EXPECT_EQ(ThePanel().count->GetValue(), 2.75);
 }
 
 TEST_F(PlayerTest, StepsAndExpectationsAreCounted) {

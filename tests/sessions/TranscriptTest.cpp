@@ -36,7 +36,7 @@ TEST_F(TranscriptTest, TellsWhatCameOfEachStep) {
               R"(tour.jsonl
 
 before the first step
-    created Panel and 16 widgets below
+    created Panel and 17 widgets below
 1: {"do":"choose","at":"TypeCmb","line":1}
     notified CATDlgComboSelectNotification {"name":"catdlgcomboselectnotification","number":1}
     changed Panel/TopFrm/TypeCmb (selection): 3 lines, line 1 "Slot" chosen
@@ -57,13 +57,32 @@ before the first step
 )");
 }
 
+TEST_F(TranscriptTest, TellsWhatAParameterShowsAndWhyATextIsNotTaken) {
+    EXPECT_EQ(Transcribe(R"({"do":"type","at":"DepthFrm","text":"1 cm"}
+{"do":"type","at":"DepthFrm","text":"wide"}
+{"do":"escape","at":"DepthFrm"})"),
+              R"(tour.jsonl
+
+before the first step
+    created Panel and 17 widgets below
+1: {"do":"type","at":"DepthFrm","text":"1 cm"}
+    changed Panel/TopFrm/DepthFrm (content): "10mm"
+2: {"do":"type","at":"DepthFrm","text":"wide"}
+    changed Panel/TopFrm/DepthFrm (content): "wide", which is not taken: 'wide' is not a number
+3: {"do":"escape","at":"DepthFrm"}
+    changed Panel/TopFrm/DepthFrm (content): "10mm"
+
+3 steps, 0 expectations, 0 failures
+)");
+}
+
 TEST_F(TranscriptTest, TellsWhatIsDestroyedByItsPath) {
     ThePanel().RequestDelayedDestruction();
     EXPECT_EQ(Transcribe(R"({"expect":"exists","at":"Panel","is":false})"), R"(tour.jsonl
 
 before the first step
-    created Panel and 16 widgets below
-    destroyed Panel and 16 widgets below
+    created Panel and 17 widgets below
+    destroyed Panel and 17 widgets below
 1: {"expect":"exists","at":"Panel","is":false}
 
 0 steps, 1 expectation, 0 failures
@@ -80,6 +99,17 @@ TEST_F(TranscriptTest, TheTreeHoldsClassNameStatesAndValues) {
     EXPECT_EQ(combo,
               session::Json::parse(R"({"class":"CATDlgCombo","name":"TypeCmb","shown":true,"enabled":true,
         "text":"Groove","lines":["Hole","Slot","Groove"],"selected":2})"));
+}
+
+TEST_F(TranscriptTest, TheTreeHoldsTheProblemOfAFieldThatHasOne) {
+    const auto field = [] { return session::TreeOfAll()[0].at("children")[0].at("children").back(); };
+    EXPECT_EQ(field(), session::Json::parse(
+                           R"({"class":"ParameterFrame","name":"DepthFrm","shown":true,"enabled":true,
+        "text":"12.5mm"})"));
+    EXPECT_EQ(Play(R"({"do":"type","at":"DepthFrm","text":"wide"})"), Held());
+    EXPECT_EQ(field(), session::Json::parse(
+                           R"({"class":"ParameterFrame","name":"DepthFrm","shown":true,"enabled":true,
+        "text":"wide","problem":"'wide' is not a number"})"));
 }
 
 } // namespace sessions

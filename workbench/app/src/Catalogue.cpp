@@ -31,16 +31,27 @@ void Print(const std::vector<engineering::Problem>& problems, std::ostream& out)
         out << ToText(problem) << '\n';
 }
 
+void Warn(const std::vector<engineering::Problem>& problems) {
+    for (const engineering::Problem& problem : problems)
+        std::cerr << "warning: " << ToText(problem) << '\n';
+}
+
 std::string Summary(const engineering::FeatureCatalogue& catalogue) {
     std::size_t types = 0;
     std::size_t sets = 0;
+    std::size_t rules = 0;
+    std::size_t threads = 0;
     for (const std::string& group : catalogue.Groups())
         for (const std::string& type : *catalogue.TypesOf(group)) {
             ++types;
             sets += catalogue.SetsOf(type)->size();
+            rules += catalogue.Type(type)->Rules().size();
         }
+    for (const engineering::ThreadStandard& standard : catalogue.Threads().Standards())
+        threads += standard.threads.size();
     return Counted(catalogue.Groups().size(), "group") + ", " + Counted(types, "type") + ", " +
-           Counted(sets, "parameter set") + ", no problems";
+           Counted(sets, "parameter set") + ", " + Counted(rules, "rule") + ", " +
+           Counted(threads, "thread") + ", no problems";
 }
 
 } // namespace
@@ -53,15 +64,18 @@ std::optional<WorkData> PrepareData(const Options& options, const DataFolders& f
     }
     engineering::LoadResult loaded = engineering::CatalogueLoader::Load(folder);
     engineering::PartResult part = engineering::LoadPart(folders.Part());
-    Print(loaded.problems, std::cerr);
+    if (loaded.catalogue)
+        Warn(loaded.problems); // rules that are passed over
+    else
+        Print(loaded.problems, std::cerr);
     Print(part.problems, std::cerr);
     for (const fs::path& messages : folders.Messages())
         host::MessageCatalogs::AddFolder(messages.string());
-    Print(UseMessageFiles(folder), std::cerr); // a text that cannot be read is shown as its key
+    Warn(UseMessageFiles(folder)); // a text that cannot be read is shown as its key
     host::MessageCatalogs::SetLanguage(options.language);
     if (!loaded.catalogue || !part.part)
         return std::nullopt;
-    return WorkData{std::move(*loaded.catalogue), std::move(*part.part)};
+    return WorkData{folder, std::move(*loaded.catalogue), std::move(*part.part)};
 }
 
 int CheckCatalogue(const std::string& folder) {

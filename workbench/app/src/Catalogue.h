@@ -10,6 +10,7 @@
 namespace app {
 
 struct WorkData {
+    std::filesystem::path folder; ///< of the catalogue
     engineering::FeatureCatalogue catalogue;
     engineering::Part part;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the program does with the dialog. Each gives the exit status.
+// What the program does with the dialog and the catalogue. Each gives the exit status.
 
 #include "Catalogue.h"
 #include "Options.h"
@@ -10,5 +10,6 @@ namespace app {
 int Open(const Options& options, const WorkData& data);
 int Replay(const Options& options, const WorkData& data);
 int Dump(const Options& options, const WorkData& data);
+int ShowThread(const Options& options, const WorkData& data);
 
 } // namespace app

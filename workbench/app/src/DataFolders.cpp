@@ -31,6 +31,10 @@ std::vector<fs::path> DataFolders::Messages() const {
     return {root / "OrvKv9View" / "CNext" / "resources" / "msgcatalog", root / "workbench" / "msgcatalog"};
 }
 
+std::vector<fs::path> DataFolders::Drawings() const {
+    return {root / "workbench" / "drawings", KELVANE_BUILT_DRAWINGS};
+}
+
 FoundData FindData() {
     const std::string wanted = Environment("KELVANE_DATA");
     if (!wanted.empty()) {

@@ -1,6 +1,7 @@
 #pragma once
 
-// Where the program's data lie: catalogue, texts, icons. The folders are laid out as in the source tree.
+// Where the program's data lie: catalogue, texts, icons, pictures. The folders are laid out as in the source
+// tree.
 
 #include <filesystem>
 #include <optional>
@@ -16,6 +17,9 @@ struct DataFolders {
     std::filesystem::path Part() const { return root / "workbench" / "parts" / "bracket.csv"; }
     /// Folders of the texts of the panels and of the dialog.
     std::vector<std::filesystem::path> Messages() const;
+    /// Folders of the pictures of the feature types: installed ones lie with the data, others where they are
+    /// built.
+    std::vector<std::filesystem::path> Drawings() const;
 };
 
 struct FoundData {

@@ -1,9 +1,11 @@
-// kelvane: the feature dialog with its catalogue, for people, for sessions and for checks.
+// kelvane: the feature dialog with its catalogue, for people, for sessions and for checks; and its threads.
 
 #include "Catalogue.h"
 #include "Commands.h"
 #include "Environment.h"
 #include "ExitStatus.h"
+#include "KeptPreferences.h"
+#include "UserFolders.h"
 #include "host/FaultPoints.h"
 #include "host/Trace.h"
 
@@ -38,6 +40,13 @@ std::string FaultOfEnvironment() {
     return {};
 }
 
+/// What a person does is remembered; sessions play alike everywhere.
+std::filesystem::path PreferencesOf(const Options& options) {
+    const bool isByPerson = options.command == Options::Command::Open;
+    return options.preferences.empty() && isByPerson ? PreferencesFile()
+                                                     : std::filesystem::path(options.preferences);
+}
+
 int RunWithCatalogue(const Options& options) {
     const FoundData found = FindData();
     if (!found.folders)
@@ -45,11 +54,14 @@ int RunWithCatalogue(const Options& options) {
     const std::optional<WorkData> data = PrepareData(options, *found.folders);
     if (!data)
         return ExitUnusable;
+    const KeptPreferences preferences(PreferencesOf(options));
     switch (options.command) {
     case Options::Command::Replay:
         return Replay(options, *data);
     case Options::Command::Dump:
         return Dump(options, *data);
+    case Options::Command::Thread:
+        return ShowThread(options, *data);
     default:
         return Open(options, *data);
     }

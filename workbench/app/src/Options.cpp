@@ -42,6 +42,7 @@ class CommandLine {
         AddReplay();
         AddDump();
         AddCheck();
+        AddThread();
         _app.footer("Without a command the feature dialog is opened.\n"
                     "Environment: KELVANE_DATA (data folder), KELVANE_TRACE (levels, \"channel:level,...\"), "
                     "KELVANE_FAIL_CALL (n or name:n).\n"
@@ -67,13 +68,21 @@ class CommandLine {
         command.add_option("--mode", _mode, "What the dialog is for: parameters or sets")
             ->check(OneOf(modes))
             ->type_name("MODE");
+        AddCatalogueOption(command);
+        command
+            .add_option("--preferences", _options.preferences,
+                        "Remember the dialog's place here; sessions and dumps remember nothing without it")
+            ->type_name("FILE");
+        command.add_option("--lang", _language, "Language of the dialog: en, de, fr or ja")
+            ->check(OneOf(languages))
+            ->type_name("LANG");
+    }
+
+    void AddCatalogueOption(CLI::App& command) {
         command
             .add_option("--catalogue", _options.catalogue,
                         "Feature catalogue to use instead of the shipped one")
             ->type_name("DIR");
-        command.add_option("--lang", _language, "Language of the dialog: en, de, fr or ja")
-            ->check(OneOf(languages))
-            ->type_name("LANG");
     }
 
     CLI::App& AddCommand(const char* name, const char* purpose, Options::Command command) {
@@ -111,6 +120,15 @@ class CommandLine {
         CLI::App& check =
             AddCommand("check", "Print the problems of a feature catalogue", Options::Command::Check);
         check.add_option("DIR", _options.file, "Folder of the catalogue")->required();
+    }
+
+    void AddThread() {
+        CLI::App& thread =
+            AddCommand("thread", "Print the sizes of a thread, such as M10x1.25", Options::Command::Thread);
+        thread.add_option("DESIGNATION", _options.designation, "M10, 'M 10x1,25', '1/4-20 UNC', G1/2 ...")
+            ->required();
+        thread.add_flag("--json", _options.json, "Print them as JSON");
+        AddCatalogueOption(thread);
     }
 
     CLI::App _app{"kelvane - the feature dialog with its catalogue", "kelvane"};

@@ -6,20 +6,23 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace app {
 
 struct Options {
-    enum class Command { Open, Replay, Dump, Check };
+    enum class Command { Open, Replay, Dump, Check, Thread };
 
     Command command = Command::Open;
     workbench::FeatureCommand::Mode mode = workbench::FeatureCommand::Mode::Parameters;
-    std::string catalogue;  ///< folder; empty for the shipped one
-    std::string language;   ///< folder of the message files, such as "German"; empty for English
-    std::string file;       ///< session to replay, or catalogue to check; empty for none
-    bool desktop = false;   ///< replay in real windows
-    std::string pictures;   ///< folder; empty for none
-    std::string transcript; ///< file; empty for none
+    std::string catalogue;   ///< folder; empty for the shipped one
+    std::string language;    ///< folder of the message files, such as "German"; empty for English
+    std::string file;        ///< session to replay, or catalogue to check; empty for none
+    bool desktop = false;    ///< replay in real windows
+    std::string pictures;    ///< folder; empty for none
+    std::string preferences; ///< file; empty for the user's own, or for none where a session is played
+    std::string transcript;  ///< file; empty for none
+    std::vector<std::string> designation; ///< words of a thread's designation
     bool json = false;
 };
 

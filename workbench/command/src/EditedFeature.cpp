@@ -1,6 +1,7 @@
 #include "EditedFeature.h"
 
 #include "CATCallbackManager.h"
+#include "CATIParmAsStored.h"
 #include "CATIParmEvents.h"
 #include "CATIParmTolerance.h"
 #include "host/FeatureParameters.h"
@@ -28,8 +29,8 @@ bool IsClass(const Tolerance& tolerance) {
 
 } // namespace
 
-EditedFeature::EditedFeature(const engineering::FeatureType& type)
-    : _type(type), _modifications(host::NewFeatureParameters()) {
+EditedFeature::EditedFeature(const engineering::FeatureType& type, std::function<void()> changed)
+    : _type(type), _changed(std::move(changed)), _modifications(host::NewFeatureParameters()) {
     _slots.reserve(type.Parameters().size());
     for (const engineering::Parameter& definition : type.Parameters()) {
         Slot slot;
@@ -55,6 +56,8 @@ void EditedFeature::Subscribe(std::size_t slot) {
 void EditedFeature::OnChanged(CATCallbackEvent, void*, CATNotification*, CATSubscriberData slot,
                               CATCallback) {
     NoteModification(*static_cast<const Slot*>(slot));
+    if (_changed)
+        _changed();
 }
 
 void EditedFeature::NoteModification(const Slot& slot) {
@@ -96,6 +99,29 @@ void EditedFeature::Change(Slot& ioSlot, const ParameterValue& entry) {
     if (entry.value && before.value != entry.value && Write(ioSlot.parameter, *entry.value))
         return;
     events->RaiseChange(1);
+}
+
+void EditedFeature::Apply() {
+    for (Slot& slot : _slots)
+        slot.start = Now(slot);
+    if (!!_modifications)
+        _modifications->ForgetModifications();
+}
+
+std::map<std::string, double, std::less<>> EditedFeature::Numbers() const {
+    std::map<std::string, double, std::less<>> numbers;
+    for (const Slot& slot : _slots) {
+        const CATIParmAsStored_var stored(slot.parameter);
+        if (slot.isTabulated && slot.definition->magnitude != engineering::Magnitude::String && !!stored)
+            numbers[slot.definition->name] = stored->GetValue();
+    }
+    return numbers;
+}
+
+std::string EditedFeature::TextOf(const std::string& name) const {
+    const Slot* const slot = Find(name);
+    const bool isText = slot != nullptr && slot->definition->magnitude == engineering::Magnitude::String;
+    return isText && !!slot->parameter ? slot->parameter->AsString().ConvertToUTF8() : "";
 }
 
 bool EditedFeature::KeepsRowsWith(const engineering::ParameterSet& set) const {

@@ -14,6 +14,8 @@
 #include "ParameterMaking.h"
 #include "engineering/FeatureType.h"
 
+#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -23,8 +25,9 @@ class EditedFeature : public CATEventSubscriber {
     CATDeclareClass;
 
   public:
-    /// The type is not owned and outlives the feature. The parameters have the values of no set.
-    explicit EditedFeature(const engineering::FeatureType& type);
+    /// The type is not owned and outlives the feature. The parameters have the values of no set. `changed` is
+    /// called after each change of a parameter.
+    explicit EditedFeature(const engineering::FeatureType& type, std::function<void()> changed = {});
     EditedFeature(const EditedFeature&) = delete;
     EditedFeature& operator=(const EditedFeature&) = delete;
     ~EditedFeature() override;
@@ -42,6 +45,14 @@ class EditedFeature : public CATEventSubscriber {
     void Take(const engineering::ParameterSet& set);
     /// Whether the set tabulates the very parameters that are tabulated now, so that a list keeps its rows.
     bool KeepsRowsWith(const engineering::ParameterSet& set) const;
+
+    /// What the parameters hold now is the state that the feature starts with: nothing is modified.
+    void Apply();
+
+    /// The numbers of the tabulated parameters by name, in mm and degrees; 0 or 1 for a boolean.
+    std::map<std::string, double, std::less<>> Numbers() const;
+    /// The text of a tabulated parameter; empty for any other.
+    std::string TextOf(const std::string& name) const;
 
     /// The parameter of that name; a null handle for an unknown one and for one that is not tabulated.
     CATICkeParm_var Parameter(const std::string& name) const;
@@ -67,6 +78,7 @@ class EditedFeature : public CATEventSubscriber {
     void NoteModification(const Slot& slot);
 
     const engineering::FeatureType& _type;
+    std::function<void()> _changed; ///< may be empty
     OrvIKvFeatureParameters_var _modifications;
     std::vector<Slot> _slots; ///< one for each parameter of the type
     bool _hasStarted = false; ///< a set was taken

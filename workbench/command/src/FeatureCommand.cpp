@@ -1,23 +1,29 @@
 #include "workbench/FeatureCommand.h"
 
 #include "CATApplicationFrame.h"
+#include "CATDlgNotify.h"
 #include "CommandTexts.h"
+#include "DrawingBook.h"
 #include "EditedFeature.h"
-#include "FeatureDialog.h"
 #include "InputSelection.h"
-#include "OrvKvGroupAndGeometrySub.h"
 #include "OrvKvGroupChangedNotification.h"
 #include "OrvKvInvertFeatureNotification.h"
+#include "OrvKvMainPanel.h"
 #include "OrvKvModifiedParameterInMultiListNotification.h"
 #include "OrvKvParameterListSub.h"
-#include "OrvKvParameterSetListSub.h"
 #include "OrvKvParameterSetSelectedNotification.h"
 #include "OrvKvPrompt.h"
 #include "OrvKvSetInputGeometryNotification.h"
-#include "OrvKvTypeAndParameterSetSub.h"
+#include "OrvKvThreadDiameterNotification.h"
+#include "OrvKvThreadInitNotification.h"
+#include "OrvKvThreadTakeNotification.h"
+#include "OrvKvThreadTypeNotification.h"
 #include "OrvKvTypeSelectedNotification.h"
+#include "RuleWatch.h"
 #include "SetTable.h"
+#include "ThreadPage.h"
 #include "engineering/FeatureCatalogue.h"
+#include "host/Inspector.h"
 #include "host/ParameterEntry.h"
 
 namespace workbench {
@@ -26,6 +32,9 @@ CATImplementClass(FeatureCommand, Implementation, CATCommand, CATNull);
 
 namespace {
 
+constexpr unsigned char parameterMode = 0; ///< of the main panel, like the next two
+constexpr unsigned char setMode = 1;
+constexpr unsigned char withDescriptions = 0;
 constexpr int directionInput = 2; ///< the input along which the feature can be turned round
 constexpr unsigned char silent = 1;
 constexpr unsigned char reporting = 0;
@@ -50,40 +59,76 @@ CATListValCATUnicodeString NamesOf(const std::vector<engineering::ParameterSet>&
     return names;
 }
 
+/// The parameter list below a widget, or null. The main panel hands neither the feature's modifications nor
+/// the silence during a change of sets on to it, so the command does.
+OrvKvParameterListSub* ListIn(const CATDialog& widget) {
+    for (CATDialog* child : host::Inspector::Children(widget)) {
+        auto* const list = dynamic_cast<OrvKvParameterListSub*>(child);
+        OrvKvParameterListSub* const found = list != nullptr ? list : ListIn(*child);
+        if (found != nullptr)
+            return found;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 FeatureCommand::FeatureCommand(const engineering::FeatureCatalogue& catalogue, const engineering::Part& part,
                                Mode mode)
     : CATCommand(nullptr, "FeatureCommand"), _catalogue(catalogue), _mode(mode),
-      _inputs(std::make_unique<InputSelection>(part)) {}
+      _inputs(std::make_unique<InputSelection>(part)),
+      _thread(std::make_unique<ThreadPage>(catalogue.Threads(), [this] { CheckRules(); })),
+      _rules(std::make_unique<RuleWatch>()), _drawings(std::make_unique<DrawingBook>(DrawingBook::Finder())) {
+}
 
 FeatureCommand::~FeatureCommand() = default;
 
+void FeatureCommand::UseDrawings(std::function<std::filesystem::path(const std::string&)> finder) {
+    _drawings = std::make_unique<DrawingBook>(std::move(finder));
+}
+
 bool FeatureCommand::Start() {
-    CATDialog* const mainWindow = CATApplicationFrame::GetFrame()->GetMainWindow();
-    _dialog = mainWindow == nullptr ? nullptr : new FeatureDialog(mainWindow, _mode);
-    if (_dialog == nullptr)
+    auto* const panel = new OrvKvMainPanel(_mode == Mode::Sets ? setMode : parameterMode, withDescriptions);
+    if (panel == nullptr)
         return false;
-    if (!_dialog->Build() || !ListenToDialog()) {
-        _dialog->RequestDelayedDestruction();
-        _dialog = nullptr;
+    AttachTo(panel);
+    panel->Build();
+    _list = ListIn(*panel);
+    if (!ListenToDialog()) {
+        AttachTo(nullptr);
         _subscriptions.clear();
+        panel->RequestDelayedDestruction();
         return false;
     }
     _state = State::Running;
-    ShowType(nullptr);
+    if (_threadPageWaits)
+        _thread->Attach(panel);
+    UseType(nullptr);
     const CATListValCATString groups = ListOf(_catalogue.Groups());
-    ShowFailure(_dialog->GroupAndGeometry()->SetGroupKeys(&groups, 1));
-    _dialog->SetVisibility(CATDlgShow);
+    ShowFailure(panel->SetGroups(&groups, 1));
+    panel->SetVisibility(CATDlgShow);
     return true;
+}
+
+void FeatureCommand::AttachTo(OrvKvMainPanel* panel) {
+    _panel = panel;
+    _rules->Attach(panel);
+    if (panel != nullptr)
+        return;
+    _list = nullptr;
+    _thread->Attach(nullptr);
 }
 
 bool FeatureCommand::ListenToDialog() {
     const auto accept = static_cast<CATCommandMethod>(&FeatureCommand::OnAccept);
+    const auto apply = static_cast<CATCommandMethod>(&FeatureCommand::OnApply);
     const auto cancel = static_cast<CATCommandMethod>(&FeatureCommand::OnCancel);
-    return ListenTo(_dialog, _dialog->GetDiaOKNotification(), accept) &&
-           ListenTo(_dialog, _dialog->GetDiaCANCELNotification(), cancel) &&
-           ListenTo(_dialog, _dialog->GetWindCloseNotification(), cancel);
+    const auto help = static_cast<CATCommandMethod>(&FeatureCommand::OnHelp);
+    return ListenTo(_panel, _panel->GetDiaOKNotification(), accept) &&
+           ListenTo(_panel, _panel->GetDiaAPPLYNotification(), apply) &&
+           ListenTo(_panel, _panel->GetDiaCANCELNotification(), cancel) &&
+           ListenTo(_panel, _panel->GetWindCloseNotification(), cancel) &&
+           ListenTo(_panel, _panel->GetDiaHELPNotification(), help);
 }
 
 // Without its notification a widget would be heard with everything that it sends.
@@ -106,6 +151,10 @@ FeatureCommand::Answer FeatureCommand::AnswerTo(const CATNotification& notificat
         {OrvKvModifiedParameterInMultiListNotification::ClassName(), &FeatureCommand::OnParameterModified},
         {OrvKvSetInputGeometryNotification::ClassName(), &FeatureCommand::OnInputWanted},
         {OrvKvInvertFeatureNotification::ClassName(), &FeatureCommand::OnInverted},
+        {OrvKvThreadInitNotification::ClassName(), &FeatureCommand::OnThreadInit},
+        {OrvKvThreadTypeNotification::ClassName(), &FeatureCommand::OnThreadType},
+        {OrvKvThreadDiameterNotification::ClassName(), &FeatureCommand::OnThreadDiameter},
+        {OrvKvThreadTakeNotification::ClassName(), &FeatureCommand::OnThreadTake},
     };
     for (const auto& each : answers)
         if (notification.IsAKindOf(each.heard) != 0)
@@ -114,7 +163,7 @@ FeatureCommand::Answer FeatureCommand::AnswerTo(const CATNotification& notificat
 }
 
 CATNotifPropagationMode FeatureCommand::AnalyseNotification(CATCommand*, CATNotification* notification) {
-    const Answer answer = _dialog == nullptr || notification == nullptr ? nullptr : AnswerTo(*notification);
+    const Answer answer = _panel == nullptr || notification == nullptr ? nullptr : AnswerTo(*notification);
     if (answer == nullptr)
         return CATNotifTransmitToFather;
     (this->*answer)(*notification);
@@ -127,10 +176,10 @@ void FeatureCommand::OnGroupChanged(CATNotification& notification) {
     static_cast<OrvKvGroupChangedNotification&>(notification).GetGroup(&group);
     if (group < 1 || static_cast<std::size_t>(group) > _catalogue.Groups().size())
         return;
-    ShowType(nullptr);
+    UseType(nullptr);
     const std::string& key = _catalogue.Groups()[static_cast<std::size_t>(group - 1)];
     const CATListValCATString types = ListOf(*_catalogue.TypesOf(key));
-    ShowFailure(_dialog->Selector()->SetFeatureTypes(group, 1, &types));
+    ShowFailure(_panel->SetFeatureTypes(group, 1, &types));
 }
 
 void FeatureCommand::OnTypeSelected(CATNotification& notification) {
@@ -142,39 +191,62 @@ void FeatureCommand::OnTypeSelected(CATNotification& notification) {
                             .GetFeatureInformation(&group, &number, &key, &name);
     if (FAILED(result))
         return OrvKvPrompt::Error(result);
-    ShowType(_catalogue.Type(key.ConvertToChar()));
+    UseType(_catalogue.Type(key.ConvertToChar()));
+}
+
+void FeatureCommand::UseType(const engineering::FeatureType* type) {
+    Change([this, type] { ShowType(type); });
 }
 
 // A type without sets sends no set, so what the type before has left is cleared first.
 void FeatureCommand::ShowType(const engineering::FeatureType* type) {
     _typeKey = type == nullptr ? std::string() : type->Description().key;
     _setName.clear();
-    auto feature = type == nullptr ? nullptr : std::make_unique<EditedFeature>(*type);
-    if (OrvKvParameterListSub* const list = _dialog->ParameterList())
+    auto feature =
+        type == nullptr ? nullptr : std::make_unique<EditedFeature>(*type, [this] { CheckRules(); });
+    if (_list != nullptr)
         ShowFailure(
-            list->SetFeatureParameters(feature ? feature->Modifications() : OrvIKvFeatureParameters_var()));
+            _list->SetFeatureParameters(feature ? feature->Modifications() : OrvIKvFeatureParameters_var()));
     _feature = std::move(feature);
+    _rules->UseType(type);
     _inputs->UseType(type);
     ShowInputs();
+    ShowDrawing();
+    const bool getsThreadOfSet =
+        type != nullptr && !type->Sets().empty() && !type->Description().thread.empty();
+    if (!getsThreadOfSet)
+        ShowThread();
     if (_mode == Mode::Sets)
         ShowSets(type);
     ShowParameters();
     const CATListValCATUnicodeString names =
         type == nullptr ? CATListValCATUnicodeString() : NamesOf(type->Sets());
-    ShowFailure(_dialog->Selector()->SetParameterSetNames(names, 0));
+    ShowFailure(_panel->SetParameterSetNames(names, 0));
+}
+
+void FeatureCommand::ShowDrawing() {
+    const DrawingBook::Page& page = _drawings->Of(_typeKey);
+    _rules->UseProblem(page.problem);
+    ShowFailure(_panel->SetFeatureDrawing(page.image.get(), _typeKey.c_str()));
+}
+
+void FeatureCommand::ShowThread() {
+    if (!_feature || _feature->Type().Description().thread.empty())
+        return _thread->ShowNone();
+    _thread->Show(_feature->TextOf(_feature->Type().Description().thread));
 }
 
 void FeatureCommand::ShowSets(const engineering::FeatureType* type) {
-    OrvKvParameterSetListSub& table = *_dialog->SetList();
     const ParameterLists columns = type == nullptr ? ParameterLists() : ColumnsOf(*type);
-    ShowFailure(table.SetParameterNames(columns.parameters, columns.names, columns.valueShown,
-                                        columns.valueEditable, columns.toleranceShown,
-                                        columns.toleranceEditable));
+    ShowFailure(_panel->SetParameterNames(columns.parameters, columns.names, columns.valueShown,
+                                          columns.valueEditable, columns.toleranceShown,
+                                          columns.toleranceEditable));
     if (type == nullptr)
         return;
     for (const engineering::ParameterSet& set : type->Sets()) {
         const ParameterLists cells = CellsOf(*type, set.values);
-        ShowFailure(table.SetParameterSet(set.name.c_str(), cells.names, cells.parameters, cells.tolerances));
+        ShowFailure(
+            _panel->SetParameterSet(set.name.c_str(), cells.names, cells.parameters, cells.tolerances));
     }
 }
 
@@ -186,50 +258,79 @@ void FeatureCommand::OnParameterSetSelected(CATNotification& notification) {
     if (set == nullptr)
         return;
     _setName = set->name;
-    OrvKvParameterListSub* const list = _dialog->ParameterList();
-    if (list == nullptr || !_feature->KeepsRowsWith(*set)) {
-        _feature->Take(*set);
-        return ShowParameters();
-    }
-    list->StopParameterValueChangedNotification(silent);
-    _feature->Take(*set);
-    list->StopParameterValueChangedNotification(reporting);
-    ShowFits();
+    Change([this, set] {
+        TakeSet(*set);
+        ShowThread();
+    });
+}
+
+// Where the rows stay, the list follows the parameters by itself.
+void FeatureCommand::TakeSet(const engineering::ParameterSet& set) {
+    const bool keepsRows = _list != nullptr && _feature->KeepsRowsWith(set);
+    if (keepsRows)
+        _list->StopParameterValueChangedNotification(silent);
+    _feature->Take(set);
+    if (keepsRows)
+        _list->StopParameterValueChangedNotification(reporting);
+    if (keepsRows)
+        ShowFits();
+    else
+        ShowParameters();
+}
+
+void FeatureCommand::Change(const std::function<void()>& steps) {
+    ++_changes;
+    steps();
+    --_changes;
+    CheckRules();
+}
+
+void FeatureCommand::CheckRules() {
+    if (_changes > 0 || _panel == nullptr)
+        return;
+    auto values = _feature ? _feature->Numbers() : std::map<std::string, double, std::less<>>();
+    _thread->AddTo(values);
+    _rules->Check(values);
+}
+
+bool FeatureCommand::IsValid() const {
+    return _rules->IsValid();
+}
+
+const TakenThread* FeatureCommand::Thread() const {
+    return _thread->HasThread() ? &_thread->Taken() : nullptr;
 }
 
 void FeatureCommand::ShowParameters() {
-    if (OrvKvParameterSetListSub* const table = _dialog->SetList()) {
-        if (!_feature || _setName.empty())
-            return;
-        const ParameterLists cells = CellsOf(_feature->Type(), _feature->Values());
-        return ShowFailure(
-            table->SetCurrentParameters(_setName.c_str(), cells.names, cells.parameters, cells.tolerances));
-    }
-    const ParameterLists lists = _feature ? _feature->Lists() : ParameterLists();
-    ShowFailure(_dialog->ParameterList()->SetParameters(lists.parameters, lists.names, lists.tolerances,
-                                                        lists.valueShown, lists.valueEditable,
-                                                        lists.toleranceShown, lists.toleranceEditable));
+    if (_mode == Mode::Sets && (!_feature || _setName.empty()))
+        return;
+    const ParameterLists lists = !_feature             ? ParameterLists()
+                                 : _mode == Mode::Sets ? CellsOf(_feature->Type(), _feature->Values())
+                                                       : _feature->Lists();
+    ShowFailure(_panel->SetParameters(_setName.c_str(), lists.names, lists.parameters, lists.tolerances,
+                                      lists.valueShown, lists.valueEditable, lists.toleranceShown,
+                                      lists.toleranceEditable));
     ShowFits();
 }
 
 // The list itself knows the limits of a parameter only, and shows them again whenever a value changes.
 void FeatureCommand::ShowFits() {
-    if (!_feature)
+    if (!_feature || _mode == Mode::Sets)
         return;
-    for (const engineering::Parameter& parameter : _feature->Type().Parameters()) {
-        const CATUnicodeString fit = _feature->Fit(parameter.name);
-        if (fit != "")
-            ShowFailure(_dialog->ParameterList()->SetFittingInfo(parameter.name.c_str(), fit));
-    }
+    for (const engineering::Parameter& parameter : _feature->Type().Parameters())
+        ShowFit(parameter.name);
+}
+
+void FeatureCommand::ShowFit(const std::string& parameter) {
+    const CATUnicodeString fit = _feature ? _feature->Fit(parameter) : CATUnicodeString();
+    if (fit != "")
+        ShowFailure(_panel->SetFittingInfo(parameter.c_str(), fit));
 }
 
 void FeatureCommand::OnParameterModified(CATNotification& notification) {
     CATString name;
     static_cast<OrvKvModifiedParameterInMultiListNotification&>(notification).GetParameterName(name);
-    OrvKvParameterListSub* const list = _dialog->ParameterList();
-    const CATUnicodeString fit = _feature ? _feature->Fit(name.ConvertToChar()) : CATUnicodeString();
-    if (list != nullptr && fit != "")
-        ShowFailure(list->SetFittingInfo(name, fit));
+    ShowFit(name.ConvertToChar());
 }
 
 host::Outcome FeatureCommand::SetValue(const std::string& parameter, const std::string& text) {
@@ -254,8 +355,25 @@ void FeatureCommand::OnInverted(CATNotification&) {
     ShowInputs();
 }
 
+// The page asks while the panel is being built, when it cannot take its data yet.
+void FeatureCommand::OnThreadInit(CATNotification&) {
+    _threadPageWaits = true;
+}
+
+void FeatureCommand::OnThreadType(CATNotification& notification) {
+    _thread->OnType(static_cast<OrvKvThreadTypeNotification&>(notification));
+}
+
+void FeatureCommand::OnThreadDiameter(CATNotification& notification) {
+    _thread->OnDiameter(static_cast<OrvKvThreadDiameterNotification&>(notification));
+}
+
+void FeatureCommand::OnThreadTake(CATNotification& notification) {
+    _thread->OnTake(static_cast<OrvKvThreadTakeNotification&>(notification));
+}
+
 host::Outcome FeatureCommand::Pick(const std::string& element) {
-    if (_dialog == nullptr)
+    if (_panel == nullptr)
         return host::Outcome::Refused(CommandText("NoInputWaits").ConvertToUTF8());
     host::Outcome outcome = _inputs->Pick(element);
     if (outcome)
@@ -265,8 +383,7 @@ host::Outcome FeatureCommand::Pick(const std::string& element) {
 
 void FeatureCommand::ShowInputs() {
     for (int input = 1; input <= InputSelection::maximum; ++input)
-        ShowFailure(_dialog->GroupAndGeometry()->SetGeometryText(
-            input, TextOfInput(input), _inputs->Has(input) ? CATDlgShow : CATDlgHide));
+        _panel->SetInputGeometryUI(input, _inputs->Has(input) ? CATDlgShow : CATDlgHide, TextOfInput(input));
     if (_inputsChanged)
         _inputsChanged();
 }
@@ -291,11 +408,34 @@ std::vector<std::string> FeatureCommand::PickedElements() const {
 }
 
 void FeatureCommand::OnAccept(CATCommand*, CATNotification*, CATCommandClientData) {
-    End(State::Accepted);
+    if (MayBeTaken())
+        End(State::Accepted);
+}
+
+// The values that are there are those that the feature starts with from now on.
+void FeatureCommand::OnApply(CATCommand*, CATNotification*, CATCommandClientData) {
+    if (!_feature || !MayBeTaken())
+        return;
+    _feature->Apply();
+    ShowParameters();
 }
 
 void FeatureCommand::OnCancel(CATCommand*, CATNotification*, CATCommandClientData) {
     End(State::Cancelled);
+}
+
+void FeatureCommand::OnHelp(CATCommand*, CATNotification*, CATCommandClientData) {
+    auto* const message = new CATDlgNotify(_panel, "HelpMessage");
+    if (message == nullptr)
+        return;
+    message->DisplayBlocked(CommandText("HelpText"), CommandText("HelpTitle"));
+    message->RequestDelayedDestruction();
+}
+
+bool FeatureCommand::MayBeTaken() const {
+    if (!IsValid())
+        OrvKvPrompt::Warning(CommandText("BreaksRules"));
+    return IsValid();
 }
 
 void FeatureCommand::End(State state) {
@@ -303,9 +443,10 @@ void FeatureCommand::End(State state) {
     for (const Subscription& each : _subscriptions)
         RemoveAnalyseNotificationCB(each.publisher, each.notification, nullptr);
     _subscriptions.clear();
-    _dialog->SetVisibility(CATDlgHide);
-    _dialog->RequestDelayedDestruction();
-    _dialog = nullptr;
+    OrvKvMainPanel* const panel = _panel;
+    AttachTo(nullptr);
+    panel->SetVisibility(CATDlgHide);
+    panel->RequestDelayedDestruction();
     if (_ended)
         _ended();
 }

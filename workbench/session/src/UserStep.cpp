@@ -9,6 +9,7 @@
 #include "host/DialogPath.h"
 #include "host/DialogUser.h"
 #include "host/Messages.h"
+#include "host/ValueFrame.h"
 #include "session/Buttons.h"
 
 namespace session {
@@ -64,14 +65,25 @@ Outcome Uncheck(CATDialog& widget, const Json&) {
 Outcome Type(CATDialog& widget, const Json& step) {
     if (auto* const spinner = dynamic_cast<CATDlgSpinner*>(&widget))
         return DialogUser::TypeValue(*spinner, Text(step, "text"));
+    if (auto* const field = dynamic_cast<host::ValueFrame*>(&widget))
+        return DialogUser::Type(*field, Text(step, "text"));
     return With<CATDlgEditor>(
         widget, "editor", [&](CATDlgEditor& editor) { return DialogUser::Type(editor, Text(step, "text")); });
 }
 
 Outcome Spin(CATDialog& widget, const Json& step) {
+    if (auto* const field = dynamic_cast<host::ValueFrame*>(&widget))
+        return DialogUser::Spin(*field, Number(step, "steps"));
     return With<CATDlgSpinner>(widget, "spinner", [&](CATDlgSpinner& spinner) {
         return DialogUser::Spin(spinner, Number(step, "steps"));
     });
+}
+
+Outcome Escape(CATDialog& widget, const Json&) {
+    if (auto* const field = dynamic_cast<host::ValueFrame*>(&widget))
+        return DialogUser::Restore(*field);
+    return With<CATDlgDialog>(widget, "value field or dialog",
+                              [](CATDlgDialog& dialog) { return DialogUser::PressEscape(dialog); });
 }
 
 Outcome Select(CATDialog& widget, const Json& step) {
@@ -108,7 +120,7 @@ struct UserStep {
 constexpr UserStep userSteps[] = {{"press", Press},     {"choose", Choose},     {"check", Check},
                                   {"uncheck", Uncheck}, {"type", Type},         {"spin", Spin},
                                   {"select", Select},   {"activate", Activate}, {"page", ShowPage},
-                                  {"move", Move},       {"close", Close}};
+                                  {"move", Move},       {"close", Close},       {"escape", Escape}};
 
 } // namespace
 

@@ -24,12 +24,14 @@ std::vector<Form> Steps() {
             {"page", {{"at"}}},
             {"move", {{"at"}, {"x", Integer}, {"y", Integer}}},
             {"close", {{"at"}}},
+            {"escape", {{"at"}}},
             {"answer", {{"button", Button}}}};
 }
 
 std::vector<Form> Expectations() {
     return {
         {"text", {{"at"}, {"is"}}},
+        {"problem", {{"at"}, {"is"}}},
         {"title", {{"at"}, {"is"}}},
         {"lines", {{"at"}, {"is", Texts | Count}}},
         {"line", {{"at"}, {"line", Count, Optional}, {"is", Text | Integer}}},

@@ -12,6 +12,7 @@
 #include "host/DialogPath.h"
 #include "host/DialogUser.h"
 #include "host/Inspector.h"
+#include "host/ValueFrame.h"
 
 namespace session {
 
@@ -90,12 +91,16 @@ WidgetValue Text(const CATDialog& widget) {
         return Has(LineText(*combo, combo->GetSelect()));
     if (As<CATDlgLabel>(widget) != nullptr)
         return Has(TextOf(widget.GetTitle()));
-    if (const auto* spinner = As<CATDlgSpinner>(widget)) {
-        CATUnicodeString text;
-        text.BuildFromNum(spinner->GetValue());
-        return Has(TextOf(text));
-    }
+    if (const auto* spinner = As<CATDlgSpinner>(widget))
+        return Has(host::Inspector::ShownText(*spinner));
+    if (const auto* field = As<host::ValueFrame>(widget))
+        return Has(field->Text());
     return HasNone(widget, "text");
+}
+
+WidgetValue Problem(const CATDialog& widget) {
+    const auto* field = As<host::ValueFrame>(widget);
+    return field == nullptr ? HasNone(widget, "problem") : Has(field->Problem());
 }
 
 WidgetValue AllLines(const CATDialog& widget) {
@@ -145,6 +150,7 @@ struct Aspect {
 
 constexpr Aspect aspects[] = {
     {"text", Text},
+    {"problem", Problem},
     {"lines", AllLines},
     {"line", ChosenLine},
     {"selected", Selected},
@@ -158,6 +164,12 @@ constexpr Aspect aspects[] = {
 
 /// The aspects that a dump writes where a widget has them; the others stand there in another form.
 constexpr const char* dumpedAspects[] = {"text", "lines", "selected", "columns", "rows", "checked"};
+
+/// "12.5mm", or "wide", with the problem behind it.
+std::string StateOfField(const host::ValueFrame& field) {
+    const std::string text = ToLine(field.Text());
+    return field.IsRefused() ? text + ", which is not taken: " + field.Problem() : text;
+}
 
 std::string CountedSelection(const CATDlgCombo& combo) {
     const std::string count = std::to_string(combo.GetLineCount()) + " lines";
@@ -218,6 +230,8 @@ std::string StateOf(const CATDialog& widget) {
         return std::to_string(list->GetLineCount()) + " rows, selected " + ToLine(SelectedRows(*list));
     if (const auto* pages = As<CATDlgTabContainer>(widget))
         return "page " + std::to_string(pages->GetSelectedPage()) + " in front";
+    if (const auto* field = As<host::ValueFrame>(widget))
+        return StateOfField(*field);
     const WidgetValue checked = Checked(widget);
     if (checked.value)
         return *checked.value == true ? "checked" : "not checked";
@@ -229,12 +243,24 @@ std::string StateOf(const CATDialog& widget) {
                : "position " + std::to_string(As<CATDlgProgress>(widget)->GetPos());
 }
 
+/// x, y, height and width in pixels.
+Json PlaceOf(const CATDlgWindow& window) {
+    int x = 0;
+    int y = 0;
+    int height = 0;
+    int width = 0;
+    window.GetRectDimensions(&x, &y, &height, &width);
+    return {{"x", x}, {"y", y}, {"height", height}, {"width", width}};
+}
+
 Json TreeOf(const CATDialog& widget) {
     Json tree{{"class", widget.IsA()}, {"name", widget.GetName().ConvertToChar()}};
     if (host::Inspector::ShowsTitle(widget))
         tree["title"] = TextOf(widget.GetTitle());
     if (widget.GetShortHelp().GetLengthInByte() > 0)
         tree["help"] = TextOf(widget.GetShortHelp());
+    if (const auto* window = As<CATDlgWindow>(widget))
+        tree["place"] = PlaceOf(*window);
     tree["shown"] = widget.GetVisibility() == CATDlgShow;
     tree["enabled"] = widget.GetSensitivity() == CATDlgEnable;
     for (const char* aspect : dumpedAspects) {
@@ -242,6 +268,8 @@ Json TreeOf(const CATDialog& widget) {
         if (value.value)
             tree[aspect] = std::move(*value.value);
     }
+    if (const auto* field = As<host::ValueFrame>(widget); field != nullptr && field->IsRefused())
+        tree["problem"] = field->Problem();
     if (const auto* progress = As<CATDlgProgress>(widget))
         tree["position"] = progress->GetPos();
     Json children = Json::array();

@@ -1,7 +1,7 @@
 #pragma once
 
-// The command that inserts a feature: it opens the feature dialog, fills it from the catalogue, hears what
-// the panels tell and answers through their setters.
+// The command that inserts a feature: it opens the main panel, fills it from the catalogue, hears what the
+// panels tell and answers through the main panel's setters.
 //
 //   host::Application application;
 //   FeatureCommand command(*catalogue, *part, FeatureCommand::Mode::Parameters);
@@ -14,24 +14,30 @@
 #include "engineering/Part.h"
 #include "host/Outcome.h"
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <set>
 #include <string>
 #include <vector>
 
-class CATDlgDialog;
+class OrvKvMainPanel;
+class OrvKvParameterListSub;
 
 namespace engineering {
 class FeatureCatalogue;
 class FeatureType;
+struct ParameterSet;
 } // namespace engineering
 
 namespace workbench {
 
+class DrawingBook;
 class EditedFeature;
-class FeatureDialog;
 class InputSelection;
+class RuleWatch;
+class ThreadPage;
+struct TakenThread;
 
 class FeatureCommand : public CATCommand {
     CATDeclareClass;
@@ -48,6 +54,10 @@ class FeatureCommand : public CATCommand {
     FeatureCommand& operator=(const FeatureCommand&) = delete;
     ~FeatureCommand() override;
 
+    /// Where the picture of a type lies; an empty path for a type without one. Without a finder no type has a
+    /// picture. To be called before Start.
+    void UseDrawings(std::function<std::filesystem::path(const std::string& typeKey)> finder);
+
     /// Opens the dialog, with the first group, type and set chosen. To be called once, when notifications
     /// that nobody has answered reach this command. False, and nothing left over, where memory is short.
     [[nodiscard]] bool Start();
@@ -59,6 +69,10 @@ class FeatureCommand : public CATCommand {
     /// What was chosen last; empty for none.
     const std::string& TypeKey() const { return _typeKey; }
     const std::string& SetName() const { return _setName; }
+    /// The thread that the feature has taken; nullptr for a feature without thread.
+    const TakenThread* Thread() const;
+    /// Whether the feature breaks no rule that it has to keep. Only then OK ends the command.
+    bool IsValid() const;
 
     /// What a person does in the 3D view: picks an element of the part for the input that waits. Refused, in
     /// the user's language, when no input waits or the element does not fit.
@@ -92,7 +106,9 @@ class FeatureCommand : public CATCommand {
     bool ListenToDialog();
 
     void OnAccept(CATCommand* from, CATNotification* notification, CATCommandClientData data);
+    void OnApply(CATCommand* from, CATNotification* notification, CATCommandClientData data);
     void OnCancel(CATCommand* from, CATNotification* notification, CATCommandClientData data);
+    void OnHelp(CATCommand* from, CATNotification* notification, CATCommandClientData data);
 
     void OnGroupChanged(CATNotification& notification);
     void OnTypeSelected(CATNotification& notification);
@@ -100,24 +116,43 @@ class FeatureCommand : public CATCommand {
     void OnParameterModified(CATNotification& notification);
     void OnInputWanted(CATNotification& notification);
     void OnInverted(CATNotification& notification);
+    void OnThreadInit(CATNotification& notification);
+    void OnThreadType(CATNotification& notification);
+    void OnThreadDiameter(CATNotification& notification);
+    void OnThreadTake(CATNotification& notification);
 
+    void AttachTo(OrvKvMainPanel* panel);
+    void UseType(const engineering::FeatureType* type);
     void ShowType(const engineering::FeatureType* type);
+    void ShowDrawing();
+    void ShowThread();
     void ShowSets(const engineering::FeatureType* type);
+    void TakeSet(const engineering::ParameterSet& set);
     void ShowParameters();
+    void ShowFit(const std::string& parameter);
     void ShowFits();
     void ShowInputs();
+    /// Does something that changes several values, and checks the rules once when all is done.
+    void Change(const std::function<void()>& steps);
+    void CheckRules();
+    bool MayBeTaken() const;
     CATUnicodeString TextOfInput(int input) const;
     void End(State state);
 
     const engineering::FeatureCatalogue& _catalogue;
     Mode _mode;
     State _state = State::NotStarted;
-    FeatureDialog* _dialog = nullptr; ///< of the dialog tree; null before the start and after the end
+    OrvKvMainPanel* _panel = nullptr;       ///< of the dialog tree; null before the start and after the end
+    OrvKvParameterListSub* _list = nullptr; ///< in the panel; null in mode Sets
     std::vector<Subscription> _subscriptions;
     std::unique_ptr<InputSelection> _inputs;
     std::unique_ptr<EditedFeature> _feature; ///< null when no type is chosen
-    bool _isTakingSet = false;               ///< the feature's parameters are changing one after the other
-    std::function<void()> _ended;            ///< may be empty, like the next one
+    std::unique_ptr<ThreadPage> _thread;
+    std::unique_ptr<RuleWatch> _rules;
+    std::unique_ptr<DrawingBook> _drawings;
+    bool _threadPageWaits = false; ///< the page has asked for its data
+    int _changes = 0; ///< changes under way, at whose end the rules are checked
+    std::function<void()> _ended;  ///< may be empty, like the next one
     std::function<void()> _inputsChanged;
     std::string _typeKey;
     std::string _setName;

@@ -4,7 +4,7 @@
 //
 //   12: {"do":"choose","at":"TypeSelectCombo","line":2}
 //       notified OrvKvTypeSelectedNotification {"group":1,"type":3}
-//       changed FeatureDialog/.../ParameterSetCmb (content, selection): 9 lines, line 0 "M3" chosen
+//       changed MainPanel/.../ParameterSetCmb (content, selection): 9 lines, line 0 "M3" chosen
 //
 // The same session gives the same transcript, on every machine and at any time.
 

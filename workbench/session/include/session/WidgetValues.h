@@ -21,17 +21,19 @@ struct WidgetValue {
 
 /// The value of one aspect:
 ///
-/// | aspect     | of                               | value |
-/// |------------|----------------------------------|-------|
-/// | `text`     | editor, combo, label, spinner    | the text a person reads in it; of a combo its chosen
-/// line | | `title`    | any widget                       | its title, whether it is drawn or not | | `lines`
-/// | combo, editor                    | all lines | | `line`     | combo                            | number
-/// of the chosen line, -1 for none | | `selected` | list; combo, tab container       | the selected rows; the
-/// number of the chosen line or page | | `rows`     | list                             | all rows, each a
-/// list of its cells | | `columns`  | list                             | the column titles | | `checked`  |
-/// radio button, check button       | | | `shown`    | any widget                       | whether a person
-/// sees it: it, its parents, its page | | `enabled`  | any widget                       | whether it and all
-/// its parents are enabled | | `widget`   | any widget                       | its class |
+///   text      editor, combo, label, spinner, value field: the text a person reads in it; of a combo its
+///             chosen line
+///   problem   value field: why the text in it is not taken, empty when it is
+///   title     any widget: its title, whether it is drawn or not
+///   lines     combo, editor: all lines
+///   line      combo: number of the chosen line, -1 for none
+///   selected  list: the selected rows; combo, tab container: the number of the chosen line or page
+///   rows      list: all rows, each a list of its cells
+///   columns   list: the column titles
+///   checked   radio button, check button
+///   shown     any widget: whether a person sees it: it, its parents, its page
+///   enabled   any widget: whether it and all its parents are enabled
+///   widget    any widget: its class
 WidgetValue ValueOf(const CATDialog& widget, const std::string& aspect);
 
 /// The number of lines or rows, for `lines` and `rows`, without reading them.

@@ -2,6 +2,8 @@
 
 #include "Sizes.h"
 
+#include <utility>
+
 namespace {
 
 void AddClimb(std::vector<Comparison>& ioAll) {
@@ -137,6 +139,27 @@ void AddShownList(std::vector<Comparison>& ioAll) {
         }
 }
 
+void AddMainPanel(std::vector<Comparison>& ioAll) {
+    const std::string built = "Main panel, built and destroyed";
+    const std::string painted = "Main panel, first paint";
+    const std::string opened = "Main panel, built, painted and destroyed";
+    const auto modes = {std::pair("/0", "parameters: "), std::pair("/1", "sets: ")};
+    for (const auto& [mode, name] : modes) {
+        ioAll.push_back({built, std::string(name) + "Qt / ours", Measure::PeerOverOurs,
+                         std::string("MainPanel/Ours") + mode, std::string("MainPanel/Qt") + mode, 25.0});
+    }
+    for (const auto& [mode, name] : modes)
+        ioAll.push_back({painted, std::string(name) + "ours / Qt", Measure::OursOverFloor,
+                         std::string("MainPanelFirstPaint/Ours") + mode,
+                         std::string("MainPanelFirstPaint/Qt") + mode, 1.2});
+    for (const auto& [mode, name] : modes)
+        ioAll.push_back({opened, std::string(name) + "ours / Qt", Measure::OursOverFloor,
+                         std::string("MainPanelOpened/Ours") + mode, std::string("MainPanelOpened/Qt") + mode,
+                         0.0});
+    ioAll.push_back({"Thread type with 1000 diameters", "another type: Qt / ours", Measure::PeerOverOurs,
+                     "ThreadType/Ours", "ThreadType/Qt", 0.0});
+}
+
 } // namespace
 
 std::vector<Comparison> AllComparisons() {
@@ -148,5 +171,6 @@ std::vector<Comparison> AllComparisons() {
     AddParameterList(all);
     AddSetTable(all);
     AddShownList(all);
+    AddMainPanel(all);
     return all;
 }

@@ -5,6 +5,7 @@
 #include "engineering/CatalogueLoader.h"
 #include "engineering/PartLoader.h"
 #include "host/MessageCatalogs.h"
+#include "pictures/PictureFile.h"
 #include "session/Counted.h"
 
 #include <iostream>
@@ -34,6 +35,21 @@ void Print(const std::vector<engineering::Problem>& problems, std::ostream& out)
 void Warn(const std::vector<engineering::Problem>& problems) {
     for (const engineering::Problem& problem : problems)
         std::cerr << "warning: " << ToText(problem) << '\n';
+}
+
+/// The pictures that the catalogue brings for its types and that cannot be read.
+std::vector<std::string> PictureProblems(const engineering::FeatureCatalogue& catalogue,
+                                         const fs::path& folder) {
+    std::vector<std::string> problems;
+    for (const std::string& group : catalogue.Groups())
+        for (const std::string& type : *catalogue.TypesOf(group)) {
+            const fs::path file = folder / "drawings" / (type + ".png");
+            std::error_code ignored;
+            if (fs::exists(file, ignored))
+                problems.push_back(pictures::ReadPicture(file).error);
+        }
+    std::erase(problems, std::string());
+    return problems;
 }
 
 std::string Summary(const engineering::FeatureCatalogue& catalogue) {
@@ -85,7 +101,11 @@ int CheckCatalogue(const std::string& folder) {
     const std::vector<engineering::Problem> textProblems = UseMessageFiles(folder);
     Print(loaded.problems, std::cout);
     Print(textProblems, std::cout);
-    if (!loaded.problems.empty() || !textProblems.empty())
+    const std::vector<std::string> pictureProblems =
+        loaded.catalogue ? PictureProblems(*loaded.catalogue, folder) : std::vector<std::string>();
+    for (const std::string& problem : pictureProblems)
+        std::cout << problem << '\n';
+    if (!loaded.problems.empty() || !textProblems.empty() || !pictureProblems.empty())
         return ExitFailed;
     std::cout << folder << ": " << Summary(*loaded.catalogue) << '\n';
     return ExitDone;

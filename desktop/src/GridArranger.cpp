@@ -1,12 +1,12 @@
 #include "GridArranger.h"
 
+#include "ContainerPeer.h"
+#include "FieldHeight.h"
 #include "Peer.h"
 #include "PeerTree.h"
+#include "host/Inspector.h"
 
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QGridLayout>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
 
 #include <algorithm>
 #include <memory>
@@ -14,14 +14,6 @@
 namespace desktop {
 
 namespace {
-
-// The height of the highest kind of field of one line.
-int FieldHeight() {
-    QComboBox box;
-    box.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    return std::max({box.sizeHint().height(), QLineEdit().sizeHint().height(),
-                     QPushButton(QStringLiteral("X")).sizeHint().height()});
-}
 
 // A text or a round or square box with its text, which is lower than a field.
 bool IsLow(const QWidget& iWidget) {
@@ -58,7 +50,8 @@ void Stretch(const std::vector<bool>& iStretches, const SetStretch& iSetStretch)
 } // namespace
 
 GridArranger::GridArranger(const PeerTree& iTree, const CATDialog& iContainer, QWidget& ioInside)
-    : _tree(iTree), _inside(ioInside), _plan(host::PlanLayout(iContainer)), _fieldHeight(FieldHeight()) {}
+    : _tree(iTree), _inside(ioInside), _isWindow(host::Inspector::IsWindow(iContainer)),
+      _plan(host::PlanLayout(iContainer)), _fieldHeight(FieldHeight()) {}
 
 void GridArranger::Arrange(Edge iEdge) {
     delete _inside.layout();
@@ -67,8 +60,14 @@ void GridArranger::Arrange(Edge iEdge) {
     _inside.setLayout(owned.release());
     if (iEdge == NoMargins)
         grid->setContentsMargins(0, 0, 0, 0);
-    for (const host::Cell& cell : _plan.cells)
-        Place(cell, *grid);
+    const int last = LastRowInUse();
+    for (const host::Cell& cell : _plan.cells) {
+        const bool isBehind = last >= 0 && cell.row > last; // where there is nothing to keep apart
+        if (IsSpacer(cell))
+            _tree.PeerOf(*cell.child)->Widget()->setVisible(!isBehind);
+        if (!isBehind)
+            Place(cell, *grid);
+    }
     Stretch(_plan.rowStretches, [grid](int iRow, int iStretch) { grid->setRowStretch(iRow, iStretch); });
     Stretch(_plan.columnStretches,
             [grid](int iColumn, int iStretch) { grid->setColumnStretch(iColumn, iStretch); });
@@ -80,11 +79,32 @@ void GridArranger::Place(const host::Cell& iCell, QGridLayout& ioGrid) const {
         return;
     QWidget* const widget = peer->Widget();
     if (peer->IsOneLine())
-        widget->setMinimumHeight(!IsLow(*widget) || StandsBesideField(iCell) ? _fieldHeight : 0);
+        widget->setMinimumHeight(!IsLow(*widget) || StandsBesideField(iCell) || IsBareRow() ? _fieldHeight
+                                                                                            : 0);
     Qt::Alignment alignment = AlignmentOf(iCell.sides);
     if (IsRowOfLines(iCell.row))
         alignment &= ~Qt::AlignTop;
     ioGrid.addWidget(widget, iCell.row, iCell.column, iCell.rowSpan, iCell.columnSpan, alignment);
+}
+
+// An empty box.
+bool GridArranger::IsSpacer(const host::Cell& iCell) const {
+    return dynamic_cast<const ContainerPeer*>(_tree.PeerOf(*iCell.child)) != nullptr &&
+           host::Inspector::FirstChild(*iCell.child) == nullptr;
+}
+
+// The last row with more than spacers; -1 for none.
+int GridArranger::LastRowInUse() const {
+    int last = -1;
+    for (const host::Cell& cell : _plan.cells)
+        if (!IsSpacer(cell))
+            last = std::max(last, cell.row + cell.rowSpan - 1);
+    return last;
+}
+
+// A single row without a box around it lines up with what stands beside its container.
+bool GridArranger::IsBareRow() const {
+    return _plan.rows == 1 && !_isWindow && _inside.layout()->contentsMargins().isNull();
 }
 
 // Lines of text beside each other share their middle, since fonts give them different heights.

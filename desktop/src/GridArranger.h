@@ -21,11 +21,15 @@ class GridArranger {
 
   private:
     void Place(const host::Cell& iCell, QGridLayout& ioGrid) const;
+    bool IsSpacer(const host::Cell& iCell) const;
+    int LastRowInUse() const;
     bool IsRowOfLines(int iRow) const;
+    bool IsBareRow() const;
     bool StandsBesideField(const host::Cell& iCell) const;
 
     const PeerTree& _tree;
     QWidget& _inside;
+    bool _isWindow;
     host::LayoutPlan _plan;
     int _fieldHeight;
 };

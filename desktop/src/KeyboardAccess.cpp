@@ -2,6 +2,7 @@
 
 #include "CATDlgWindow.h"
 #include "LabelPeer.h"
+#include "Names.h"
 #include "PeerTree.h"
 #include "StandardButtons.h"
 #include "Texts.h"
@@ -42,6 +43,19 @@ std::vector<host::Cell> CellsAfter(const host::LayoutPlan& iPlan, const host::Ce
                      [](const host::Cell& a, const host::Cell& b) { return a.row < b.row; });
     right.insert(right.end(), below.begin(), below.end());
     return right;
+}
+
+bool IsPage(const CATDialog& iWidget) {
+    const CATDialog* const parent = host::Inspector::Parent(iWidget);
+    return parent != nullptr && host::Inspector::HoldsPages(*parent);
+}
+
+// The innermost page that a widget is on; null for none.
+const CATDialog* PageOf(const CATDialog& iWidget) {
+    const CATDialog* widget = host::Inspector::Parent(iWidget);
+    while (widget != nullptr && !IsPage(*widget))
+        widget = host::Inspector::Parent(*widget);
+    return widget;
 }
 
 } // namespace
@@ -119,34 +133,42 @@ void KeyboardAccess::OrderTabs() const {
 }
 
 void KeyboardAccess::ShowCaptions() {
-    _window.Buttons().ShowCaptions(_mnemonics);
+    Mnemonics mnemonics;
+    _window.Buttons().ShowCaptions(mnemonics);
+    ShowCaptionsOn(nullptr, mnemonics);
+}
+
+// Of pages behind one another only one is seen, so that each has the letters that are left around them. Null
+// for what is on no page.
+void KeyboardAccess::ShowCaptionsOn(const CATDialog* iPage, Mnemonics iMnemonics) {
     for (Peer* peer : _peers) {
-        const auto* const label = dynamic_cast<LabelPeer*>(peer);
-        const bool takesMnemonic = label == nullptr ? peer->Field() != nullptr : label->HasField();
+        if (PageOf(*peer->Dialog()) != iPage)
+            continue;
         const QString caption = peer->Caption();
-        peer->ShowCaption(takesMnemonic && !caption.isEmpty() ? _mnemonics.Take(caption) : -1);
+        peer->ShowCaption(peer->TakesMnemonic() && !caption.isEmpty() ? iMnemonics.Take(caption) : -1);
     }
+    for (const Peer* peer : _peers)
+        if (IsPage(*peer->Dialog()) && PageOf(*peer->Dialog()) == iPage)
+            ShowCaptionsOn(peer->Dialog(), iMnemonics);
 }
 
 void KeyboardAccess::NameFields() const {
     for (const Peer* peer : _peers)
-        if (QWidget* const field = peer->Field())
-            field->setAccessibleName(NameOf(*peer));
-        else if (dynamic_cast<const LabelPeer*>(peer) != nullptr)
-            peer->Widget()->setAccessibleName(NameOf(*peer));
+        if (QWidget* const part = peer->Named())
+            part->setAccessibleName(NameOf(*peer));
 }
 
-// A title that nobody gave is the widget's identifier, which says least.
+// The widget's identifier says least.
 QString KeyboardAccess::NameOf(const Peer& iPeer) const {
-    const QString identifier = ToQt(iPeer.Dialog()->GetName());
-    QString title = ToQt(iPeer.Dialog()->GetTitle()).trimmed();
-    if (!title.isEmpty() && title != identifier)
-        return title;
     const LabelPeer* const label = _labels.value(iPeer.Field());
-    if (label != nullptr)
-        return label->Caption().trimmed();
-    const QString help = ToQt(iPeer.Dialog()->GetShortHelp());
-    return help.isEmpty() ? identifier : help;
+    const QString names[] = {GivenTitle(*iPeer.Dialog()),
+                             label == nullptr ? QString() : label->Caption().trimmed(),
+                             GivenText(*iPeer.Dialog(), iPeer.Caption()),
+                             ToQt(iPeer.Dialog()->GetShortHelp()), TitleAround(*iPeer.Dialog())};
+    for (const QString& name : names)
+        if (!name.isEmpty())
+            return name;
+    return ToQt(iPeer.Dialog()->GetName());
 }
 
 } // namespace desktop

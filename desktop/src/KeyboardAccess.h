@@ -32,12 +32,12 @@ class KeyboardAccess {
     Peer* FirstFieldIn(CATDialog& ioWidget) const;
     void OrderTabs() const;
     void ShowCaptions();
+    void ShowCaptionsOn(const CATDialog* iPage, Mnemonics iMnemonics);
     void NameFields() const;
     QString NameOf(const Peer& iPeer) const;
 
     const PeerTree& _tree;
     WindowPeer& _window;
-    Mnemonics _mnemonics;
     std::vector<Peer*> _peers;                       // of the window, parents before children
     QHash<const QWidget*, const LabelPeer*> _labels; // by the field that they stand for
 };

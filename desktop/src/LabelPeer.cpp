@@ -2,8 +2,10 @@
 
 #include "CATDlgLabel.h"
 #include "Icons.h"
+#include "Names.h"
 #include "PeerTree.h"
 #include "Texts.h"
+#include "host/Inspector.h"
 
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStyle>
@@ -43,10 +45,10 @@ bool LabelPeer::IsOneLine() const {
 void LabelPeer::ShowState(unsigned int iKinds) {
     if ((iKinds & host::ChangeIcon) != 0)
         ShowIcon();
+    if ((iKinds & (host::ChangeIcon | host::ChangeTitle | host::ChangeHelp)) != 0)
+        ShowIconHelp();
 }
 
-// A picture alone says nothing to who cannot see it: its title, or else its icon's name, is its accessible
-// text.
 void LabelPeer::ShowIcon() {
     const QIcon icon = IconOf(Tree(), _label);
     _hasIcon = !icon.isNull();
@@ -58,6 +60,18 @@ void LabelPeer::ShowIcon() {
     const QList<QSize> sizes = icon.availableSizes();
     Label().setPixmap(
         icon.pixmap(sizes.isEmpty() ? QSize(side, side) : sizes.first(), Label().devicePixelRatioF()));
+}
+
+// A picture alone says nothing to those who cannot see it, and little to those who cannot tell its colours:
+// the title, or else the icon's name, is its balloon, and the icon's name tells which of several is shown.
+void LabelPeer::ShowIconHelp() {
+    const QString icon = _hasIcon ? ToQt(host::Inspector::Icons(_label).normal) : QString();
+    const QString title = GivenTitle(_label);
+    QString help = ToQt(_label.GetShortHelp());
+    if (help.isEmpty() && _hasIcon)
+        help = title.isEmpty() ? icon : title;
+    Label().setToolTip(AsPlainHelp(help));
+    Label().setAccessibleDescription(icon);
 }
 
 QLabel& LabelPeer::Label() const {

@@ -19,6 +19,8 @@ class LabelPeer : public Peer {
 
     QString Caption() const override;
     void ShowCaption(int iMnemonic) override;
+    bool TakesMnemonic() const override { return HasField(); }
+    QWidget* Named() const override { return Widget(); }
     bool IsOneLine() const override;
 
   protected:
@@ -26,6 +28,7 @@ class LabelPeer : public Peer {
 
   private:
     void ShowIcon();
+    void ShowIconHelp();
     QLabel& Label() const;
 
     CATDlgLabel& _label;

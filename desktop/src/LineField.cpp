@@ -1,8 +1,9 @@
 #include "LineField.h"
 
+#include "ReadOnlyLook.h"
+
 #include <QtCore/QEvent>
 #include <QtGui/QFocusEvent>
-#include <QtGui/QPalette>
 
 #include <algorithm>
 
@@ -33,8 +34,10 @@ QSize LineField::minimumSizeHint() const {
 
 bool LineField::event(QEvent* iEvent) {
     const bool isHandled = QLineEdit::event(iEvent);
-    if (iEvent->type() == QEvent::ReadOnlyChange || iEvent->type() == QEvent::PaletteChange)
-        ShowWhetherReadOnly();
+    const bool mayLookOther =
+        iEvent->type() == QEvent::ReadOnlyChange || iEvent->type() == QEvent::PaletteChange;
+    if (mayLookOther && isReadOnly())
+        LookReadOnly(*this);
     return isHandled;
 }
 
@@ -42,15 +45,6 @@ void LineField::focusOutEvent(QFocusEvent* iEvent) {
     QLineEdit::focusOutEvent(iEvent);
     if (iEvent->reason() != Qt::PopupFocusReason)
         _onLeft();
-}
-
-// The change of the palette that this makes finds nothing to do.
-void LineField::ShowWhetherReadOnly() {
-    if (!isReadOnly() || palette().brush(QPalette::Base) == palette().brush(QPalette::Window))
-        return;
-    QPalette readOnly;
-    readOnly.setBrush(QPalette::Base, palette().brush(QPalette::Window));
-    setPalette(readOnly);
 }
 
 } // namespace desktop

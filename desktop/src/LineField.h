@@ -25,8 +25,6 @@ class LineField : public QLineEdit {
     void focusOutEvent(QFocusEvent* iEvent) override;
 
   private:
-    void ShowWhetherReadOnly();
-
     std::function<void()> _onLeft;
     int _visibleCharacters = 0;
 };

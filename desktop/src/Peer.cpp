@@ -28,8 +28,12 @@ void Peer::Refresh(unsigned int iKinds) {
     if ((iKinds & host::ChangeSensitivity) != 0)
         _widget->setEnabled(_dialog->GetSensitivity() == CATDlgEnable);
     if ((iKinds & host::ChangeVisibility) != 0 && !_widget->isWindow())
-        _widget->setVisible(_dialog->GetVisibility() == CATDlgShow &&
-                            !host::DelayedDestruction::IsDoomed(*_dialog));
+        ShowVisibility();
+}
+
+void Peer::ShowVisibility() {
+    _widget->setVisible(_dialog->GetVisibility() == CATDlgShow &&
+                        !host::DelayedDestruction::IsDoomed(*_dialog));
 }
 
 void Peer::Detach() {
@@ -41,7 +45,7 @@ void Peer::Detach() {
 void Peer::ShowCaption(int) {}
 
 bool Peer::Perform(const std::function<host::Outcome()>& iAction) {
-    _tree.CommitText(this);
+    _tree.CommitAll(this);
     if (_dialog == nullptr)
         return false;
     const host::Outcome outcome = iAction();

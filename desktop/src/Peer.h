@@ -45,12 +45,19 @@ class Peer : public QObject {
 
     // The part that takes the keyboard; null for what takes none.
     virtual QWidget* Field() const { return nullptr; }
+    // The part that is named for those who do not see it; null for what needs no name.
+    virtual QWidget* Named() const { return Field(); }
     // The title as the widget draws it; empty when it draws none.
     virtual QString Caption() const { return QString(); }
     // Draws the title with the character at iMnemonic for its mnemonic; -1 for none.
     virtual void ShowCaption(int iMnemonic);
+    // Whether Alt and a letter of the title lead to the widget.
+    virtual bool TakesMnemonic() const { return Field() != nullptr; }
     // Whether the widget is as high as one line of text, so that it can stand in line with others.
     virtual bool IsOneLine() const { return false; }
+
+    // Whether the widget has come to need more or less room than it has; told once.
+    virtual bool TakeNeedsRoom() { return false; }
 
     // Passes a text that is still being typed on to the host, or drops it.
     virtual void CommitText() {}
@@ -59,6 +66,8 @@ class Peer : public QObject {
   protected:
     // Shows what is particular to the kind of widget.
     virtual void ShowState(unsigned int iKinds) = 0;
+    // Shows or hides the widget as the host says.
+    virtual void ShowVisibility();
 
     // Does what the person asks for. Refused: the peer shows again what the host holds, and the reason.
     // True when it is done and the host widget is still there.

@@ -12,6 +12,10 @@
 #include "CATDlgNotify.h"
 #include "CATDlgPushButton.h"
 #include "CATDlgRadioButton.h"
+#include "CATDlgSpinner.h"
+#include "CATDlgTabContainer.h"
+#include "CATDlgTabPage.h"
+#include "CATViewer.h"
 #include "CheckButtonPeer.h"
 #include "ContainerPeer.h"
 #include "DropDownPeer.h"
@@ -22,10 +26,16 @@
 #include "PlaceholderPeer.h"
 #include "PushButtonPeer.h"
 #include "RadioButtonPeer.h"
+#include "SpinnerPeer.h"
+#include "TabContainerPeer.h"
+#include "TabPagePeer.h"
 #include "TablePeer.h"
 #include "TextEditorPeer.h"
+#include "ValueFramePeer.h"
+#include "ViewerPeer.h"
 #include "WindowPeer.h"
 #include "host/Inspector.h"
+#include "host/ValueFrame.h"
 
 namespace desktop {
 
@@ -50,10 +60,18 @@ Peer* MakePeer(PeerTree& ioTree, CATDialog& ioDialog, Peer* iContainer) {
     QWidget* const parent = iContainer == nullptr ? nullptr : iContainer->Inside();
     if (parent == nullptr)
         return nullptr;
+    if (auto* value = dynamic_cast<host::ValueFrame*>(&ioDialog))
+        return new ValueFramePeer(ioTree, *value, parent);
+    if (auto* viewer = dynamic_cast<CATViewer*>(&ioDialog))
+        return new ViewerPeer(ioTree, *viewer, parent);
     if (auto* frame = dynamic_cast<CATDlgFrame*>(&ioDialog))
         return new FramePeer(ioTree, *frame, parent);
     if (auto* container = dynamic_cast<CATDlgContainer*>(&ioDialog))
         return new ContainerPeer(ioTree, *container, parent);
+    if (auto* tabs = dynamic_cast<CATDlgTabContainer*>(&ioDialog))
+        return new TabContainerPeer(ioTree, *tabs, parent);
+    if (auto* page = dynamic_cast<CATDlgTabPage*>(&ioDialog))
+        return new TabPagePeer(ioTree, *page, parent);
     if (auto* label = dynamic_cast<CATDlgLabel*>(&ioDialog))
         return new LabelPeer(ioTree, *label, parent);
     if (auto* button = dynamic_cast<CATDlgPushButton*>(&ioDialog))
@@ -69,6 +87,8 @@ Peer* MakePeer(PeerTree& ioTree, CATDialog& ioDialog, Peer* iContainer) {
     }
     if (auto* list = dynamic_cast<CATDlgMultiList*>(&ioDialog))
         return new TablePeer(ioTree, *list, parent);
+    if (auto* spinner = dynamic_cast<CATDlgSpinner*>(&ioDialog))
+        return new SpinnerPeer(ioTree, *spinner, parent);
     if (auto* editor = dynamic_cast<CATDlgEditor*>(&ioDialog)) {
         if (HasStyle(*editor, CATDlgEdtMultiline))
             return new TextEditorPeer(ioTree, *editor, parent);

@@ -78,6 +78,12 @@ void PeerTree::CommitText(const Peer* iExcept) {
         _typing->CommitText();
 }
 
+void PeerTree::CommitAll(const Peer* iExcept) {
+    CommitText(iExcept);
+    for (WindowPeer* window : std::vector<WindowPeer*>(_windows))
+        window->ReportPlace();
+}
+
 void PeerTree::WarnOnce(const QString& iText) {
     if (_warnings.contains(iText))
         return;
@@ -120,7 +126,7 @@ void PeerTree::Refresh(CATDialog& ioWidget, unsigned int iKinds) {
     if ((iKinds & placing) != 0)
         NoteContentOf(host::Inspector::Parent(ioWidget));
     constexpr unsigned int naming = placing | host::ChangeTitle | host::ChangeHelp | host::ChangeIcon;
-    if ((iKinds & naming) != 0)
+    if (peer->TakeNeedsRoom() || (iKinds & naming) != 0)
         NoteWindowOf(ioWidget);
 }
 

@@ -42,8 +42,10 @@ class PeerTree {
     void NoteTyping(Peer& ioPeer) { _typing = &ioPeer; }
     void NoteTypingEnded(const Peer& iPeer);
     Peer* Typing() const { return _typing; }
-    // Passes that text on, before something else is done; not when iExcept is the one.
+    // Passes that text on; not when iExcept is the one.
     void CommitText(const Peer* iExcept);
+    // Passes on what the person has done and the host does not know yet, before something else is done.
+    void CommitAll(const Peer* iExcept);
     // Whether the windows are being brought up to date, so that what happens in them is no person's doing.
     bool IsApplying() const { return _isApplying; }
 

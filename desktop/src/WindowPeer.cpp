@@ -21,6 +21,8 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
+
 namespace desktop {
 
 namespace {
@@ -52,10 +54,34 @@ void PlaceAnew(QWidget& ioWidget) {
         PlaceAnew(*child);
 }
 
-bool IsOnScreen(const QPoint& iTopLeft) {
-    const QPoint titleBar = iTopLeft + QPoint(40, 10);
-    return QGuiApplication::screenAt(titleBar) != nullptr;
+// How far a point lies from an area; 0 inside.
+int DistanceTo(const QRect& iArea, const QPoint& iPoint) {
+    const int x = std::clamp(iPoint.x(), iArea.left(), iArea.right());
+    const int y = std::clamp(iPoint.y(), iArea.top(), iArea.bottom());
+    return (iPoint - QPoint(x, y)).manhattanLength();
 }
+
+// The area for windows of the screen that is nearest to a point.
+QRect AreaNearestTo(const QPoint& iPoint) {
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    const auto nearest =
+        std::min_element(screens.begin(), screens.end(), [&iPoint](const QScreen* a, const QScreen* b) {
+            return DistanceTo(a->geometry(), iPoint) < DistanceTo(b->geometry(), iPoint);
+        });
+    return nearest == screens.end() ? QRect() : (*nearest)->availableGeometry();
+}
+
+// Where a window of that extent is wholly in sight, as near as can be; of one that is too large, the upper
+// left corner.
+QPoint IntoSight(const QRect& iFrame) {
+    const QRect area = AreaNearestTo(iFrame.center());
+    if (area.isNull())
+        return iFrame.topLeft();
+    return QPoint(std::max(area.left(), std::min(iFrame.x(), area.x() + area.width() - iFrame.width())),
+                  std::max(area.top(), std::min(iFrame.y(), area.y() + area.height() - iFrame.height())));
+}
+
+constexpr int endOfDrag = 150; // milliseconds without a further step
 
 } // namespace
 
@@ -104,8 +130,11 @@ void WindowPeer::ShowOrHide() {
         _frame->hide();
         return;
     }
+    _isDraggedThere = false;
     Place();
     _frame->show();
+    if (_isPlacedByHost)
+        MoveIntoSight(_frame->pos()); // the borders of the window are known now
     _frame->raise();
     _frame->activateWindow();
     KeepPlace();
@@ -149,10 +178,12 @@ void WindowPeer::Close() {
 void WindowPeer::NoteNewPlace(bool iByWindowSystem) {
     const QWindow* const handle = _frame->windowHandle();
     const bool isOnScreen = handle != nullptr && handle->isExposed();
-    if (_isPlacing || !iByWindowSystem || !isOnScreen || Tree().IsApplying())
+    if (_isPlacing || !iByWindowSystem || !isOnScreen || Tree().IsApplying()) {
         KeepPlace();
-    else
-        _reportPlace.start(0);
+        return;
+    }
+    _isDragged = true;
+    _reportPlace.start(endOfDrag);
 }
 
 void WindowPeer::ShowState(unsigned int iKinds) {
@@ -172,21 +203,42 @@ void WindowPeer::PressStandardButton(CATULong iButton) {
         Perform([dialog, iButton] { return host::DialogUser::PressStandardButton(*dialog, iButton); });
 }
 
-// Where the program gave no size, it is that of the content; where it gave no place, or one that is on no
-// screen, the window system chooses.
+// Where the program gave no size, it is that of the content; where it gave no rectangle at all, the window
+// system chooses the place.
 void WindowPeer::Place() {
+    if (_isDragged)
+        return;
     const QScopedValueRollback<bool> placing(_isPlacing, true);
     int x = 0;
     int y = 0;
     int height = 0;
     int width = 0;
     _window.GetRectDimensions(&x, &y, &height, &width);
+    NoteHostPlace(QRect(x, y, width, height));
     const QSize natural = NaturalSize();
     _frame->resize(width > 0 ? width : natural.width(), height > 0 ? height : natural.height());
     const QPoint place(x, y);
-    if (!place.isNull() && IsOnScreen(place))
-        _frame->move(place);
+    const bool isWhereDragged = _isDraggedThere && _frame->pos() == place;
+    if (_isPlacedByHost && !isWhereDragged)
+        MoveIntoSight(place);
     KeepPlace();
+}
+
+// As near to the place as the whole window can be seen.
+void WindowPeer::MoveIntoSight(const QPoint& iPlace) {
+    const QScopedValueRollback<bool> placing(_isPlacing, true);
+    const QPoint place = IntoSight(QRect(iPlace, _frame->frameGeometry().size()));
+    if (_frame->isHidden() || place != _frame->pos())
+        _frame->move(place);
+}
+
+// A new size by hand gives no place to a window that never had one.
+void WindowPeer::NoteHostPlace(const QRect& iRectangle) {
+    if (iRectangle == _hostRectangle)
+        return;
+    _hostRectangle = iRectangle;
+    _isPlacedByHost = _isPlacedByHost || !_isReporting || !iRectangle.topLeft().isNull();
+    _isDraggedThere = _isReporting;
 }
 
 // That of the content, and room for the title and the signs beside it.
@@ -202,6 +254,10 @@ void WindowPeer::KeepPlace() {
 }
 
 void WindowPeer::ReportPlace() {
+    if (!_isDragged)
+        return;
+    _isDragged = false;
+    const QScopedValueRollback<bool> reporting(_isReporting, true);
     const QPoint place = _frame->pos();
     const QSize size = _frame->size();
     const bool isMoved = place != _place;

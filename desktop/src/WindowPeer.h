@@ -42,6 +42,8 @@ class WindowPeer : public Peer {
     void Close();
     // iByWindowSystem: not by a call of this program.
     void NoteNewPlace(bool iByWindowSystem);
+    // Passes on where the person has dragged the window and how large; called by itself at the end of a drag.
+    void ReportPlace();
 
   protected:
     void ShowState(unsigned int iKinds) override;
@@ -49,19 +51,25 @@ class WindowPeer : public Peer {
   private:
     void PressStandardButton(CATULong iButton);
     void Place();
+    void MoveIntoSight(const QPoint& iPlace);
+    void NoteHostPlace(const QRect& iRectangle);
     QSize NaturalSize() const;
     void KeepPlace();
-    void ReportPlace();
     CATDlgDialog* AsDialog() const;
 
     CATDlgWindow& _window;
     DialogWindow* _frame;
     QWidget* _inside = nullptr;
     StandardButtons* _buttons = nullptr;
-    QTimer _reportPlace; // collects the steps of one drag
-    QPoint _place;       // as the host knows it
-    QSize _size;
+    QTimer _reportPlace;          // collects the steps of one drag
+    QPoint _place;                // where the window was before the person moved it
+    QSize _size;                  // and how large
+    QRect _hostRectangle;         // as the host held it last
+    bool _isPlacedByHost = false; // else the window system chooses the place
     bool _isPlacing = false;
+    bool _isDraggedThere = false; // by the person, who may leave it partly off the screen
+    bool _isDragged = false;      // by the person, and not reported yet
+    bool _isReporting = false;
 };
 
 } // namespace desktop

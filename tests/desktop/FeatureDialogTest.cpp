@@ -43,7 +43,7 @@ class FeatureDialogTest : public command::CommandTest {
     QtWidget& Shown(const std::string& iPath) {
         return dynamic_cast<QtWidget&>(*_desktop->WidgetOf(*Host(iPath)));
     }
-    QWidget& Window() { return Shown<QWidget>("FeatureDialog"); }
+    QWidget& Window() { return Shown<QWidget>("MainPanel"); }
     QListView& Types() { return Shown<QListView>("TypeSelectCombo"); }
     QComboBox& Sets() { return Shown<QComboBox>("ParameterSetCmb"); }
     QTableView& Table(const std::string& iName) { return Shown<QTableView>(iName); }
@@ -71,7 +71,11 @@ class FeatureDialogTest : public command::CommandTest {
     command::FeatureCommand::Mode _mode = command::FeatureCommand::Mode::Parameters;
 };
 
-const Texts aTypeAndItsFirstSet = {"OrvKvTypeSelectedNotification", "OrvKvParameterSetSelectedNotification"};
+// The type, its first set, the thread that goes with it, and that the rules hold.
+const Texts aTypeAndItsFirstSet = {
+    "OrvKvTypeSelectedNotification",   "OrvKvParameterSetSelectedNotification",
+    "OrvKvThreadDiameterNotification", "OrvKvThreadTakeNotification",
+    "OrvKvThreadTakeNotification",     "OrvKvTriggerStateChangeToValidNotification"};
 
 TEST_F(FeatureDialogTest, AClickOnATypeReachesTheCommandWhichListsItsSetsAndShowsTheFirst) {
     const QRect line = Types().visualRect(Types().model()->index(1, 0));
@@ -230,14 +234,14 @@ TEST_F(FeatureDialogTest, OkAcceptsTheChoiceAndTheWindowGoes) {
         if (button->text().remove('&') == "OK")
             QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_EQ(Command().CurrentState(), command::FeatureCommand::State::Accepted);
-    EXPECT_EQ(Host("FeatureDialog"), nullptr);
+    EXPECT_EQ(Host("MainPanel"), nullptr);
 }
 
 TEST_F(FeatureDialogTest, EscapeCancels) {
     QWidget& window = Window();
     QTest::keyClick(&window, Qt::Key_Escape);
     EXPECT_EQ(Command().CurrentState(), command::FeatureCommand::State::Cancelled);
-    EXPECT_EQ(Host("FeatureDialog"), nullptr);
+    EXPECT_EQ(Host("MainPanel"), nullptr);
 }
 
 } // namespace

@@ -1,17 +1,27 @@
 #include "Hand.h"
 
 #include "CATDialog.h"
+#include "CATDlgWindow.h"
 #include "PartTree.h"
 #include "desktop/Desktop.h"
 #include "host/DialogPath.h"
 #include "session/Player.h"
 
+#include <QtGui/QWindow>
 #include <QtTest/QTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QListView>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabBar>
+#include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QTreeWidget>
+
+#include <cstdlib>
 
 namespace desktop_test {
 
@@ -61,9 +71,26 @@ QPushButton* StandardButton(const QWidget& iWindow, const std::string& iName) {
     return nullptr;
 }
 
+// The line in which a widget is typed; null for none.
+QWidget* FieldOf(QWidget* iWidget) {
+    if (iWidget == nullptr || iWidget->inherits("QLineEdit") || iWidget->inherits("QAbstractSpinBox"))
+        return iWidget;
+    if (auto* const field = iWidget->findChild<QAbstractSpinBox*>())
+        return field;
+    return nullptr;
+}
+
 } // namespace
 
-Hand::Hand(const desktop::Desktop& iDesktop, const app::PartTree& iPart) : _desktop(iDesktop), _part(iPart) {}
+Hand::Hand(const desktop::Desktop& iDesktop, const app::PartTree& iPart) : _desktop(iDesktop), _part(iPart) {
+    QObject::connect(&_answer, &QTimer::timeout, &_answer, &Hand::AnswerMessage);
+    _answer.start(0); // runs in the loop of a message too
+}
+
+void Hand::AnswerMessage() {
+    if (auto* const message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+        QTest::mouseClick(message->button(QMessageBox::Ok), Qt::LeftButton);
+}
 
 void Hand::TakeOver(session::Player& ioPlayer) {
     using enum ValueKind;
@@ -75,6 +102,12 @@ void Hand::TakeOver(session::Player& ioPlayer) {
     take({"press", {{"at"}, {"button", Button, Need::Optional}}}, &Hand::Press);
     take({"choose", {{"at"}, {"line", Count, Need::Alternative}, {"text", Text, Need::Alternative}}},
          &Hand::Choose);
+    take({"check", {{"at"}}}, &Hand::Check);
+    take({"type", {{"at"}, {"text", Text}}}, &Hand::Type);
+    take({"spin", {{"at"}, {"steps", Integer}}}, &Hand::Spin);
+    take({"escape", {{"at"}}}, &Hand::Escape);
+    take({"page", {{"at"}}}, &Hand::ShowPage);
+    take({"move", {{"at"}, {"x", Integer}, {"y", Integer}}}, &Hand::Move);
     take({"select", {{"at"}, {"rows", Counts}}}, &Hand::Select);
     take({"activate", {{"at"}, {"row", Count}, {"column", Count}}}, &Hand::Activate);
     take({"pick", {{"element"}}}, &Hand::Pick);
@@ -103,6 +136,76 @@ Outcome Hand::Choose(const Json& iStep) const {
     auto* const list = dynamic_cast<QListView*>(widget);
     return list == nullptr ? CannotBe("choose")
                            : Click(*list, list->model()->index(LineOf(*list->model(), iStep), 0));
+}
+
+// On the button's sign, which is left of its text.
+Outcome Hand::Check(const Json& iStep) const {
+    auto* const button = dynamic_cast<QAbstractButton*>(Find(iStep));
+    if (button == nullptr)
+        return CannotBe("check");
+    QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(8, button->height() / 2));
+    return Outcome::Done();
+}
+
+Outcome Hand::Type(const Json& iStep) const {
+    QWidget* const field = FieldOf(Find(iStep));
+    if (field == nullptr)
+        return CannotBe("type in");
+    field->setFocus();
+    QTest::keySequence(field, QKeySequence::SelectAll);
+    QTest::keyClicks(field, QString::fromStdString(iStep.at("text").get<std::string>()));
+    QTest::keyClick(field, Qt::Key_Return);
+    return Outcome::Done();
+}
+
+Outcome Hand::Spin(const Json& iStep) const {
+    QWidget* const field = FieldOf(Find(iStep));
+    if (field == nullptr)
+        return CannotBe("step");
+    field->setFocus();
+    const int steps = iStep.at("steps").get<int>();
+    for (int step = 0; step < std::abs(steps); ++step)
+        QTest::keyClick(field, steps > 0 ? Qt::Key_Up : Qt::Key_Down);
+    return Outcome::Done();
+}
+
+Outcome Hand::Escape(const Json& iStep) const {
+    QWidget* const widget = Find(iStep);
+    if (widget == nullptr)
+        return CannotBe("leave");
+    QWidget* const field = FieldOf(widget);
+    if (field != nullptr)
+        field->setFocus();
+    QTest::keyClick(field == nullptr ? widget : field, Qt::Key_Escape);
+    return Outcome::Done();
+}
+
+Outcome Hand::ShowPage(const Json& iStep) const {
+    const QWidget* const page = Find(iStep);
+    const QWidget* const stack = page == nullptr ? nullptr : page->parentWidget();
+    auto* const box = stack == nullptr ? nullptr : dynamic_cast<QTabWidget*>(stack->parentWidget());
+    if (box == nullptr || box->indexOf(page) == -1)
+        return CannotBe("bring forward");
+    QTabBar& tabs = *box->tabBar();
+    QTest::mouseClick(&tabs, Qt::LeftButton, Qt::NoModifier, tabs.tabRect(box->indexOf(page)).center());
+    return Outcome::Done();
+}
+
+// What the window system reports when a person drags a window; the desktop waits for the end of the drag.
+Outcome Hand::Move(const Json& iStep) const {
+    auto* const dialog =
+        dynamic_cast<CATDlgWindow*>(host::DialogPath::Find(iStep.at("at").get<std::string>()).widget);
+    const QWidget* const window = Find(iStep);
+    if (dialog == nullptr || window == nullptr)
+        return CannotBe("move");
+    const QPoint place(iStep.at("x").get<int>(), iStep.at("y").get<int>());
+    window->windowHandle()->setFramePosition(place);
+    const bool isHeard = QTest::qWaitFor([dialog, &place] {
+        QPoint now;
+        dialog->GetRectDimensions(&now.rx(), &now.ry(), nullptr, nullptr);
+        return now == place;
+    });
+    return isHeard ? Outcome::Done() : CannotBe("heard of the move");
 }
 
 Outcome Hand::Select(const Json& iStep) const {

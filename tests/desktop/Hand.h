@@ -2,6 +2,7 @@
 
 #include "session/StepHandler.h"
 
+#include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
 #include <deque>
@@ -23,7 +24,7 @@ class Player;
 namespace desktop_test {
 
 // Does the steps of a session with mouse and keyboard, in the windows of the desktop, where the player itself
-// would act on the host.
+// would act on the host. It presses OK in every message that comes up.
 //
 //     Hand hand(desktop, partTree);
 //     hand.TakeOver(player);
@@ -50,15 +51,24 @@ class Hand {
 
     host::Outcome Press(const session::Json& iStep) const;
     host::Outcome Choose(const session::Json& iStep) const;
+    host::Outcome Check(const session::Json& iStep) const;
+    host::Outcome Type(const session::Json& iStep) const;
+    host::Outcome Spin(const session::Json& iStep) const;
+    host::Outcome Escape(const session::Json& iStep) const;
+    host::Outcome ShowPage(const session::Json& iStep) const;
+    host::Outcome Move(const session::Json& iStep) const;
     host::Outcome Select(const session::Json& iStep) const;
     host::Outcome Activate(const session::Json& iStep) const;
     host::Outcome Pick(const session::Json& iStep) const;
 
     QWidget* Find(const session::Json& iStep) const;
+    // Presses OK in a message that waits.
+    static void AnswerMessage();
 
     const desktop::Desktop& _desktop;
     const app::PartTree& _part;
     std::deque<Step> _steps;
+    QTimer _answer;
 };
 
 } // namespace desktop_test

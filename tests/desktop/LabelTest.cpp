@@ -1,4 +1,5 @@
 #include "CATDlgCombo.h"
+#include "CATDlgFrame.h"
 #include "CATDlgLabel.h"
 #include "CATDlgPushButton.h"
 #include "DesktopFixture.h"
@@ -22,11 +23,11 @@ class LabelTest : public DesktopTest {
     LabelTest() : _label(new CATDlgLabel(&Dialog(), "StateLab")) { _label->SetTitle("Rules & state"); }
 
     // Puts an icon where the host looks for it.
-    void MakeIcon(const std::string& iName) {
+    void MakeIcon(const std::string& iName, const QSize& iSize = QSize(16, 16)) {
         const std::filesystem::path icons = _folder.Path() / "graphic" / "icons" / "normal";
         std::filesystem::create_directories(icons);
         std::filesystem::create_directories(_folder.Path() / "msgcatalog");
-        QImage image(16, 16, QImage::Format_ARGB32);
+        QImage image(iSize, QImage::Format_ARGB32);
         image.fill(Qt::green);
         ASSERT_TRUE(image.save(QString::fromStdString((icons / (iName + ".png")).string())));
         host::MessageCatalogs::AddFolder((_folder.Path() / "msgcatalog").string());
@@ -59,6 +60,39 @@ TEST_F(LabelTest, ShowsItsIconAloneAndKeepsItsTitleForThoseWhoCannotSee) {
     _label->SetIconName("");
     Settle();
     EXPECT_EQ(Utf8(Label().text()), "Rules & state");
+}
+
+TEST_F(LabelTest, ItsIconIsNotScaledAndIsExplainedInABalloon) {
+    MakeIcon("I_Green", QSize(48, 20));
+    MakeIcon("I_Red");
+    _label->SetIconName("I_Green");
+    Open();
+    EXPECT_EQ(Label().pixmap(Qt::ReturnByValue).deviceIndependentSize(), QSizeF(48, 20));
+    EXPECT_GE(Label().width(), 48);
+    EXPECT_EQ(Utf8(Label().toolTip()), "Rules & state");
+    EXPECT_EQ(Utf8(Label().accessibleDescription()), "I_Green");
+    _label->SetIconName("I_Red");
+    Settle();
+    EXPECT_EQ(Utf8(Label().accessibleDescription()), "I_Red") << "which tells what the colour tells";
+    _label->SetShortHelp("State of the rules");
+    Settle();
+    EXPECT_EQ(Utf8(Label().toolTip()), "State of the rules");
+    _label->SetIconName("");
+    _label->SetShortHelp("");
+    Settle();
+    EXPECT_EQ(Utf8(Label().toolTip()), "") << "the title is seen";
+    EXPECT_EQ(Utf8(Label().accessibleDescription()), "");
+}
+
+TEST_F(LabelTest, AnIconWithoutTitleIsNamedAfterTheBoxAroundIt) {
+    MakeIcon("I_Green");
+    auto* const frame = new CATDlgFrame(&Dialog(), "RulesFrm");
+    frame->SetTitle("Rules");
+    auto* const light = new CATDlgLabel(frame, "Label003");
+    light->SetIconName("I_Green");
+    Open();
+    EXPECT_EQ(Utf8(Shown(*light).accessibleName()), "Rules");
+    EXPECT_EQ(Utf8(Shown(*light).toolTip()), "I_Green");
 }
 
 TEST_F(LabelTest, ShowsItsTitleAndWarnsOnceWhenTheIconIsMissing) {

@@ -5,6 +5,7 @@
 #include "CATDlgFrame.h"
 #include "CATDlgLabel.h"
 #include "CATDlgPushButton.h"
+#include "CATDlgRadioButton.h"
 #include "DesktopFixture.h"
 
 #include <QtGui/QFont>
@@ -130,6 +131,35 @@ TEST_F(LayoutTest, AnEmptyBoxKeepsItsExtent) {
     gap->SetRectDimensions(1, 1, 30, 50);
     Open();
     EXPECT_EQ(PlaceOf(*gap).size(), QSize(50, 30));
+}
+
+TEST_F(LayoutTest, AnEmptyBoxBehindEverythingTakesNoRoom) {
+    CATDlgEditor& upper = Editor(Dialog(), "Upper");
+    CATDlgEditor& lower = Editor(Dialog(), "Lower");
+    auto* const between = new CATDlgContainer(&Dialog(), "BetweenCon");
+    between->SetRectDimensions(1, 1, 30, 50);
+    auto* const behind = new CATDlgContainer(&Dialog(), "BehindCon");
+    behind->SetRectDimensions(1, 1, 300, 50);
+    Dialog().SetVerticalAttachment(0, CATDlgTopOrLeft, &upper, between, &lower, behind, nullptr);
+    Dialog().SetHorizontalAttachment(0, CATDlgTopOrLeft, &upper, nullptr);
+    Dialog().SetHorizontalAttachment(1, CATDlgTopOrLeft, between, nullptr);
+    Dialog().SetHorizontalAttachment(2, CATDlgTopOrLeft, &lower, nullptr);
+    Open();
+    EXPECT_GE(PlaceOf(lower).top(), PlaceOf(upper).bottom() + 30);
+    EXPECT_FALSE(Shown(*behind).isVisible());
+    EXPECT_LT(Window().height(), 300);
+}
+
+TEST_F(LayoutTest, RadioButtonsInAFrameStandAtTheHeightOfTheLabelBesideIt) {
+    CATDlgFrame* const row = new CATDlgFrame(&Dialog(), "RowFrm", CATDlgFraNoFrame);
+    auto* const label = new CATDlgLabel(row, "DirectionLab");
+    auto* const frame = new CATDlgFrame(row, "DirectionFrm", CATDlgFraNoFrame);
+    auto* const left = new CATDlgRadioButton(frame, "LeftRdb");
+    auto* const right = new CATDlgRadioButton(frame, "RightRdb");
+    Open();
+    EXPECT_LT(PlaceOf(*left).right(), PlaceOf(*right).left());
+    EXPECT_NEAR(PlaceOf(*left).center().y(), PlaceOf(*label).center().y(), 1);
+    EXPECT_EQ(PlaceOf(*left).center().y(), PlaceOf(*right).center().y());
 }
 
 TEST_F(LayoutTest, AChildThatFillsItsContainerFollowsItsSize) {

@@ -2,10 +2,14 @@
 
 #include "OrvKvThreadSubTest.h"
 
+#include "NotedCalls.h"
+#include "StandInParameter.h"
+
 #include "CATDlgLabel.h"
 #include "host/CommandInspection.h"
 
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -31,10 +35,23 @@ class OrvKvThreadSubParametersTest : public OrvKvThreadSubTest {
     static std::string TitleOfDiameter() {
         return Widget<CATDlgLabel>("DiameterLab").GetTitle().ConvertToChar();
     }
+    // From now on the parameters note what is asked of them.
+    void NoteCalls() {
+        for (CATICkeParm_var* const parameter : {&_diameter, &_internalDiameter, &_length, &_pitch}) {
+            const auto noted = host::Adopt(new StandInParameter(*parameter));
+            noted->frames = host::Adopt<CATICkeParamFrame>(new NotedFrames(*parameter, _calls));
+            *parameter = noted;
+        }
+    }
+    Calls TakeCalls() { return std::exchange(_calls, {}); }
+
     Texts Taken() {
         _panel->SetAsStandardThread();
         return Said();
     }
+
+  private:
+    Calls _calls;
 };
 
 const Texts spinners = {"CATDlgSpinner IntDiamSpn", "CATDlgSpinner IntDiamSpn", "CATDlgSpinner LengthSpn",
@@ -55,6 +72,25 @@ TEST_F(OrvKvThreadSubParametersTest, EachParameterIsEditedInItsFrameWithArrowsAn
         EXPECT_EQ(EditorIn(frame).Label(), "") << frame;
     }
     EXPECT_EQ(Said(), Texts());
+}
+
+TEST_F(OrvKvThreadSubParametersTest, EditorsShowNoLabelAndGiveNeitherAnotherNameNorAFormula) {
+    NoteCalls();
+    MakeBuilt();
+    const int options = CATCkeNoRename | CATCkeNoFormula | CATCkeNoLabel | CATCkeWithSpinner;
+    const std::string rest = ", options " + std::to_string(options) + ", named ''";
+    const Calls others = {"L in ThreadLengthFrm" + rest, "DK in InternalDiaFrm" + rest,
+                          "P in PitchFrm" + rest};
+    Calls all = others;
+    all.push_back("DG in ThreadDiaFrm" + rest);
+    EXPECT_EQ(Bind(), SuccessIn(source));
+    EXPECT_EQ(TakeCalls(), all);
+    Rebuild(_types, 0, _diameters, 0);
+    EXPECT_EQ(TakeCalls(), Calls());
+    EXPECT_EQ(Bind(), SuccessIn(source));
+    EXPECT_EQ(TakeCalls(), others) << "the diameter keeps its combo";
+    Rebuild(_types, -1, {}, -1);
+    EXPECT_EQ(TakeCalls(), Calls({all.back()}));
 }
 
 TEST_F(OrvKvThreadSubParametersTest, AMissingParameterIsRefusedWithoutATraceAndChangesNothing) {
@@ -314,6 +350,17 @@ TEST_F(OrvKvThreadSubParametersTest, TheFirstOfEachListOfValuesIsStoredShownAndT
     EXPECT_EQ(Said(), Texts({"take '' P 1.75 DK 10.25 DG 12 '' 'Metric'"}));
     EXPECT_EQ(SetValues({1.75}, {10.25}, {12.0}), SuccessIn(source));
     EXPECT_EQ(Said(), Texts({"take '' P 1.75 DK 10.25 DG 12 '' 'Metric'"})) << "the same again";
+}
+
+TEST_F(OrvKvThreadSubParametersTest, DiameterInternalDiameterAndPitchAreStoredInThisOrder) {
+    NoteCalls();
+    MakeStandard();
+    TakeCalls();
+    EXPECT_EQ(SetValues({1.75, 1.0}, {10.25}, {12.0, 3.0}), SuccessIn(source));
+    EXPECT_EQ(TakeCalls(), Calls({"DG = 12", "DK = 10.25", "P = 1.75"}));
+    EXPECT_EQ(Said(), Texts({"take '' P 1.75 DK 10.25 DG 12 '' 'Metric'"}));
+    SetValues({}, {10.25}, {12.0});
+    EXPECT_EQ(TakeCalls(), Calls());
 }
 
 TEST_F(OrvKvThreadSubParametersTest, AnEmptyListOfValuesChangesAndSendsNothing) {

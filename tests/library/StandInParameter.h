@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CATICkeParamFrame.h"
 #include "CATICkeParm.h"
 #include "CATIParmTolerance.h"
 #include "host/Component.h"
@@ -8,8 +9,8 @@
 
 namespace support {
 
-// A length that a test has a hand in: what happens while its value is read, and which tolerance it has. It is
-// followed like any other, its events are those of the length.
+// A length that a test has a hand in: what happens while its value is read, which tolerance it has and what
+// makes its edition frames. It is followed like any other, its events are those of the length.
 //
 //     const auto depth = host::Adopt(new StandInParameter(Length("T", 20)));
 //     depth->onShow = [] { CATThrow(new CATInternalError("Error_InShow", "Catalogue")); };
@@ -19,6 +20,7 @@ class StandInParameter : public host::Component<CATICkeParm> {
 
     std::function<void()> onShow;    // runs before the value is given
     CATIParmTolerance_var tolerance; // that of the length when it is null
+    CATICkeParamFrame_var frames;    // those of the length when it is null
 
     using host::Component<CATICkeParm>::QueryInterface;
     HRESULT QueryInterface(const IID& iInterface, void** oPointer) override {
@@ -26,6 +28,8 @@ class StandInParameter : public host::Component<CATICkeParm> {
             return host::Component<CATICkeParm>::QueryInterface(iInterface, oPointer);
         if (iInterface == IID_CATIParmTolerance && !!tolerance)
             return tolerance->QueryInterface(iInterface, oPointer);
+        if (iInterface == IID_CATICkeParamFrame && !!frames)
+            return frames->QueryInterface(iInterface, oPointer);
         return _length->QueryInterface(iInterface, oPointer);
     }
 

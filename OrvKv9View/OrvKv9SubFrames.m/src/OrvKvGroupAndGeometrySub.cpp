@@ -16,7 +16,7 @@ static const char SourceFile[] = "OrvKv9SubFrames.m/src/OrvKvGroupAndGeometrySub
 
 static constexpr int VisibleCharacters = 12;
 
-OrvKvImplementResourceName(OrvKvGroupAndGeometrySub, CATDlgFrame);
+OrvKvImplementResourceName(OrvKvGroupAndGeometrySub, CATDialog);
 
 OrvKvGroupAndGeometrySub::OrvKvGroupAndGeometrySub(CATDialog* iFather)
     : CATDlgFrame(iFather, "OrvKvGroupAndGeometrySub", OrvKvPlainFrame), _pGroupCmb(nullptr),

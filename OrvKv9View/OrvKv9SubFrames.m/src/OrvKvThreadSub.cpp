@@ -33,7 +33,7 @@ static constexpr unsigned char InitMode = 1;
 static constexpr int Nobody = 1;
 static constexpr int TheUser = 3;
 
-OrvKvImplementResourceName(OrvKvThreadSub, CATDlgFrame);
+OrvKvImplementResourceName(OrvKvThreadSub, CATDialog);
 
 namespace {
 

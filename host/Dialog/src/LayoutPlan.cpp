@@ -65,9 +65,12 @@ class Axis {
     }
 
     // The next free cell, for a child that is not attached.
-    Block PlaceBehind() {
+    Block PlaceBehind() { return PlaceAt(Count()); }
+
+    // One cell.
+    Block PlaceAt(int iCell) {
         Block block;
-        block.first = Count();
+        block.first = iCell;
         Use(block, false);
         return block;
     }
@@ -123,10 +126,45 @@ unsigned int SidesOf(const Axis::Block& iColumns, const Axis::Block& iRows) {
     return sides;
 }
 
-// The cell that a child without attachment gets in one direction. A child that is attached in the other
-// direction goes behind; one without any attachment follows the container's default orientation.
-Axis::Block PlaceFree(Axis& ioAxis, bool iIsAttachedAcross, bool iRunsAlong) {
-    return iIsAttachedAcross || iRunsAlong ? ioAxis.PlaceBehind() : ioAxis.PlaceFirst();
+// The children that are attached across one direction and not in it. They go behind the attached ones: along
+// the container's default orientation one after the other, across it each in the first cell in which it
+// covers no other of them, since their tops or left sides are aligned.
+class HalfAttached {
+  public:
+    HalfAttached(const Axis& iAxis, bool iRunsAlong) : _behind(iAxis.Count()), _runsAlong(iRunsAlong) {}
+
+    Axis::Block Place(Axis& ioAxis, const Axis::Block& iAcross) {
+        if (_runsAlong)
+            return ioAxis.PlaceBehind();
+        int cell = _behind;
+        while (IsTaken(cell, iAcross))
+            ++cell;
+        _taken.push_back({cell, iAcross});
+        return ioAxis.PlaceAt(cell);
+    }
+
+  private:
+    struct Taken {
+        int cell;
+        Axis::Block across;
+    };
+
+    bool IsTaken(int iCell, const Axis::Block& iAcross) const {
+        return std::any_of(_taken.begin(), _taken.end(), [&](const Taken& iTaken) {
+            return iTaken.cell == iCell && iTaken.across.first < iAcross.first + iAcross.span &&
+                   iAcross.first < iTaken.across.first + iTaken.across.span;
+        });
+    }
+
+    int _behind; // the first cell behind the attached ones
+    bool _runsAlong;
+    std::vector<Taken> _taken;
+};
+
+// The cell that a child without any attachment gets in one direction: it follows the container's default
+// orientation.
+Axis::Block PlaceFree(Axis& ioAxis, bool iRunsAlong) {
+    return iRunsAlong ? ioAxis.PlaceBehind() : ioAxis.PlaceFirst();
 }
 
 bool ShareCells(const Cell& iOne, const Cell& iOther) {
@@ -185,6 +223,8 @@ LayoutPlan PlanTabulations(const CATDialog& iContainer, const std::vector<CATDia
             rowBlocks[index] = rows.PlaceAttached(*iChildren[index]);
     }
     const bool isHorizontal = Inspector::DefaultOrientation(iContainer) == Horizontal;
+    HalfAttached withoutColumns(columns, isHorizontal);
+    HalfAttached withoutRows(rows, !isHorizontal);
     LayoutPlan plan;
     plan.cells.reserve(iChildren.size());
     for (std::size_t index = 0; index < iChildren.size(); ++index) {
@@ -192,9 +232,11 @@ LayoutPlan PlanTabulations(const CATDialog& iContainer, const std::vector<CATDia
         const bool hasColumns = columns.IsAttached(*child);
         const bool hasRows = rows.IsAttached(*child);
         if (!hasColumns)
-            columnBlocks[index] = PlaceFree(columns, hasRows, isHorizontal);
+            columnBlocks[index] =
+                hasRows ? withoutColumns.Place(columns, rowBlocks[index]) : PlaceFree(columns, isHorizontal);
         if (!hasRows)
-            rowBlocks[index] = PlaceFree(rows, hasColumns, !isHorizontal);
+            rowBlocks[index] =
+                hasColumns ? withoutRows.Place(rows, columnBlocks[index]) : PlaceFree(rows, !isHorizontal);
         const Axis::Block& column = columnBlocks[index];
         const Axis::Block& row = rowBlocks[index];
         plan.cells.push_back(

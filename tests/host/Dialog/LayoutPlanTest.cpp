@@ -191,13 +191,34 @@ TEST_F(LayoutPlanTest, StacksChildrenThatAreAttachedInColumnsOnly) {
 TEST_F(LayoutPlanTest, PutsChildrenThatAreAttachedInRowsOnlyBehindEachOther) {
     frame.SetHorizontalAttachment(0, CATDlgTopOrLeft, &a, &b, nullptr);
     frame.SetHorizontalAttachment(1, CATDlgTopOrLeft, &c, nullptr);
-    for (const CATDlgOrientation orientation : {Horizontal, Vertical}) {
-        frame.SetDefaultOrientation(orientation);
-        const LayoutPlan plan = PlanLayout(frame);
-        EXPECT_TRUE(plan.IsLeftOf(a, b));
-        EXPECT_TRUE(plan.IsLeftOf(b, c));
-        EXPECT_TRUE(plan.IsAbove(a, c));
-    }
+    const LayoutPlan plan = PlanLayout(frame);
+    EXPECT_TRUE(plan.IsLeftOf(a, b));
+    EXPECT_TRUE(plan.IsLeftOf(b, c));
+    EXPECT_TRUE(plan.IsAbove(a, c));
+}
+
+// A row of buttons whose columns are told alone, in a container whose children stand side by side; the fourth
+// child lies under the second.
+TEST_F(LayoutPlanTest, AlignsTheTopsOfChildrenThatAreAttachedToDifferentColumnsOnly) {
+    CATDlgFrame d(&frame, "D");
+    frame.SetVerticalAttachment(0, CATDlgTopOrLeft, &a, nullptr);
+    frame.SetVerticalAttachment(2, CATDlgTopOrLeft, &b, &d, nullptr);
+    frame.SetVerticalAttachment(4, CATDlgTopOrLeft, &c, nullptr);
+    const LayoutPlan plan = PlanLayout(frame);
+    EXPECT_EQ(plan.rows, 2);
+    EXPECT_EQ(plan.CellOf(a)->row, 0);
+    EXPECT_EQ(plan.CellOf(b)->row, 0);
+    EXPECT_EQ(plan.CellOf(c)->row, 0);
+    EXPECT_EQ(plan.CellOf(d)->row, 1);
+}
+
+TEST_F(LayoutPlanTest, AlignsTheLeftSidesOfChildrenThatAreAttachedToDifferentRowsOnly) {
+    frame.SetHorizontalAttachment(0, CATDlgTopOrLeft, &a, &b, nullptr);
+    frame.SetHorizontalAttachment(1, CATDlgTopOrLeft, &c, nullptr);
+    frame.SetDefaultOrientation(Vertical);
+    const LayoutPlan plan = PlanLayout(frame);
+    EXPECT_TRUE(plan.IsLeftOf(a, b));
+    EXPECT_EQ(plan.CellOf(c)->column, plan.CellOf(a)->column);
 }
 
 TEST_F(LayoutPlanTest, LetsUnattachedChildrenFollowBehindTheAttachedOnesInBothOrientations) {

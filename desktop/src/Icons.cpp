@@ -4,6 +4,8 @@
 #include "Texts.h"
 #include "host/Inspector.h"
 
+#include <QtGui/QImageReader>
+
 namespace desktop {
 
 namespace {
@@ -30,6 +32,11 @@ QIcon IconOf(PeerTree& ioTree, const CATDialog& iWidget) {
     AddState(ioTree, icon, names.focus, QIcon::Active);
     AddState(ioTree, icon, names.disabled, QIcon::Disabled);
     return icon;
+}
+
+QSize NaturalSizeOfIcon(const CATDialog& iWidget) {
+    const std::string name = host::Inspector::Icons(iWidget).normal;
+    return QImageReader(ToQt(host::Inspector::IconFile(name))).size();
 }
 
 } // namespace desktop

@@ -13,6 +13,9 @@ class PeerTree;
 // told once for each name, and the widget shows its title.
 QIcon IconOf(PeerTree& ioTree, const CATDialog& iWidget);
 
+// The size in which the widget's icon was drawn; empty when it has none.
+QSize NaturalSizeOfIcon(const CATDialog& iWidget);
+
 } // namespace desktop
 
 #endif

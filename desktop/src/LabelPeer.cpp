@@ -8,7 +8,6 @@
 #include "host/Inspector.h"
 
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QStyle>
 
 namespace desktop {
 
@@ -56,10 +55,7 @@ void LabelPeer::ShowIcon() {
         Label().setPixmap(QPixmap());
         return;
     }
-    const int side = Label().style()->pixelMetric(QStyle::PM_SmallIconSize);
-    const QList<QSize> sizes = icon.availableSizes();
-    Label().setPixmap(
-        icon.pixmap(sizes.isEmpty() ? QSize(side, side) : sizes.first(), Label().devicePixelRatioF()));
+    Label().setPixmap(icon.pixmap(NaturalSizeOfIcon(_label), Label().devicePixelRatioF()));
 }
 
 // A picture alone says nothing to those who cannot see it, and little to those who cannot tell its colours:

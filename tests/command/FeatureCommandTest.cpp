@@ -49,9 +49,8 @@ TEST_F(FeatureCommandTest, OpensWithTheFirstGroupTypeAndSet) {
     EXPECT_EQ(TakeHeard(), AllHeard({threadPageMade, Heard("OrvKvGroupChangedNotification", {{"group", 1}}),
                                      TypeSelected(1, 1, "ClearanceHole", "Clearance hole (ISO 273)"),
                                      SetSelected("ISO 273 M1.6 fine"), isValid}));
-    EXPECT_EQ(LinesOf("GroupCmb"),
-              Texts({"Screw holes and countersinks", "Tapped holes and thread undercuts",
-                     "Centre holes and keyways", "Grooves for seals and retaining rings"}));
+    EXPECT_EQ(LinesOf("GroupCmb"), Texts({"Screw holes and countersinks", "Threads and undercuts",
+                                          "Centre holes and keyways", "Seal and ring grooves"}));
     EXPECT_EQ(Combo("GroupCmb").GetSelect(), 0);
     EXPECT_EQ(Command().CurrentState(), FeatureCommand::State::Running);
     EXPECT_EQ(Command().TypeKey(), "ClearanceHole");

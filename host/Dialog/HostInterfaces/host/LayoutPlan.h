@@ -25,9 +25,9 @@ struct Cell {
 // Tabulation lines become the borders between columns and rows; a child with one side attached keeps its
 // natural size in the cell beside the line, one with two sides attached covers the cells between them.
 // Columns and rows that end on a stretching line take the surplus space. Children that are not attached in a
-// direction follow in their order of creation there, behind the attached ones, so that nothing overlaps; across
-// the default orientation those stand beside each other that are attached to other lines. A child that only
-// ends on a vertical line stands between that line and a child that spans up to it.
+// direction follow in their order of creation there, behind the attached ones, so that nothing overlaps;
+// across the default orientation those stand beside each other that are attached to other lines. A child that
+// only ends on a vertical line stands between that line and a child that spans up to it.
 struct LayoutPlan {
     int rows = 0;
     int columns = 0;

@@ -151,7 +151,7 @@ class FeatureCommand : public CATCommand {
     std::unique_ptr<RuleWatch> _rules;
     std::unique_ptr<DrawingBook> _drawings;
     bool _threadPageWaits = false; ///< the page has asked for its data
-    int _changes = 0; ///< changes under way, at whose end the rules are checked
+    int _changes = 0;              ///< changes under way, at whose end the rules are checked
     std::function<void()> _ended;  ///< may be empty, like the next one
     std::function<void()> _inputsChanged;
     std::string _typeKey;

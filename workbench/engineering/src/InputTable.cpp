@@ -1,7 +1,7 @@
 #include "InputTable.h"
 
 #include "CellText.h"
-#include "CsvTable.h"
+#include "RowReader.h"
 
 #include <algorithm>
 #include <map>
@@ -17,13 +17,13 @@ constexpr char firstNumber = '1';
 constexpr char lastNumber = '3';
 
 // Reads the lines of inputs.csv one after the other.
-class InputReader {
+class InputReader : private RowReader {
   public:
     InputReader(const CsvTable& table, TypeTable& types, FileReport& report)
-        : _table(table), _types(types), _report(report) {}
+        : RowReader(table, report), _types(types) {}
 
     void ReadRow(const CsvTable::Row& row) {
-        _row = &row;
+        UseLine(row);
         TypeDraft* type = Type();
         const std::optional<int> number = Number();
         const std::set<ElementKind> kinds = Kinds();
@@ -41,19 +41,13 @@ class InputReader {
     void Finish() {
         for (TypeDraft& type : _types.types) {
             std::ranges::sort(type.inputs, {}, &Input::number);
-            if (_table.IsComplete() && _everyInputKnown) {
+            if (Table().IsComplete() && _everyInputKnown) {
                 ReportGap(type);
             }
         }
     }
 
   private:
-    const std::string& Text(const char* column) const { return _table.Cell(*_row, column); }
-
-    void Fail(const char* column, std::string message) {
-        _report.Add(_row->line, column, std::move(message));
-    }
-
     TypeDraft* Type() {
         TypeDraft* type = _types.Find(Text("type"));
         if (type == nullptr) {
@@ -105,20 +99,17 @@ class InputReader {
         int expected = 1;
         for (const Input& input : type.inputs) {
             if (input.number != expected) {
-                _report.Add(_lines[&type].at(input.number), "number",
-                            "type " + Quoted(type.description.key) + " has an input " +
-                                std::to_string(input.number) + " but no input " + std::to_string(expected));
+                FailAt(_lines[&type].at(input.number), "number",
+                       "type " + Quoted(type.description.key) + " has an input " +
+                           std::to_string(input.number) + " but no input " + std::to_string(expected));
                 return;
             }
             ++expected;
         }
     }
 
-    const CsvTable& _table;
     TypeTable& _types;
-    FileReport& _report;
-    const CsvTable::Row* _row = nullptr; ///< the line being read
-    bool _everyInputKnown = true;        ///< no line so far could be an input that cannot be told
+    bool _everyInputKnown = true; ///< no line so far could be an input that cannot be told
     std::map<const TypeDraft*, std::map<int, int>> _lines; ///< line of each input of each type
 };
 

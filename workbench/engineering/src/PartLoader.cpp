@@ -1,12 +1,11 @@
 #include "engineering/PartLoader.h"
 
 #include "CellText.h"
-#include "CsvTable.h"
-#include "ElementName.h"
+#include "RowReader.h"
 
 #include <algorithm>
 #include <cmath>
-#include <unordered_set>
+#include <set>
 
 namespace engineering {
 
@@ -22,14 +21,14 @@ Vector UnitOf(const Vector& direction) {
 }
 
 // Reads the lines of the table one after the other.
-class ElementReader {
+class ElementReader : private RowReader {
   public:
-    ElementReader(const CsvTable& table, FileReport& report) : _table(table), _report(report) {}
+    ElementReader(const CsvTable& table, const FileReport& report) : RowReader(table, report) {}
 
     Element ReadRow(const CsvTable::Row& row) {
-        _row = &row;
+        UseLine(row);
         Element element;
-        element.name = Name();
+        element.name = NewName("name", _names);
         const std::optional<ElementKind> kind = Kind();
         element.point = Coordinates("x", "y", "z").value_or(Vector{});
         if (!kind) {
@@ -45,24 +44,6 @@ class ElementReader {
     }
 
   private:
-    const std::string& Text(const char* column) const { return _table.Cell(*_row, column); }
-
-    void Fail(const char* column, std::string message) {
-        _report.Add(_row->line, column, std::move(message));
-    }
-
-    std::string Name() {
-        Parsed<std::string> name = ParseElementName(Text("name"));
-        if (!name.value) {
-            Fail("name", std::move(name.error));
-            return {};
-        }
-        if (!_names.insert(*name.value).second) {
-            Fail("name", "duplicate name " + Quoted(*name.value));
-        }
-        return std::move(*name.value);
-    }
-
     std::optional<ElementKind> Kind() {
         const std::optional<ElementKind> kind = ElementKindNamed(Text("kind"));
         if (!kind) {
@@ -106,10 +87,7 @@ class ElementReader {
         }
     }
 
-    const CsvTable& _table;
-    FileReport& _report;
-    const CsvTable::Row* _row = nullptr;    ///< the line being read
-    std::unordered_set<std::string> _names; ///< names met so far
+    std::set<std::string> _names; ///< names met so far
 };
 
 std::vector<Element> ReadElements(const std::filesystem::path& file, FileReport& report) {

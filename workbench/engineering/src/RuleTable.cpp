@@ -1,8 +1,8 @@
 #include "RuleTable.h"
 
 #include "CellText.h"
-#include "CsvTable.h"
 #include "Formula.h"
+#include "RowReader.h"
 
 #include <algorithm>
 #include <array>
@@ -19,13 +19,13 @@ constexpr std::array<std::string_view, 4> threadNames{"THREAD_DIAMETER", "THREAD
                                                       "THREAD_LENGTH", "THREAD_PITCH"};
 
 // Reads the lines of rules.csv one after the other.
-class RuleReader {
+class RuleReader : private RowReader {
   public:
     RuleReader(const CsvTable& table, TypeTable& types, const fs::path& file, std::vector<Problem>& problems)
-        : _table(table), _types(types), _report(file, problems), _problems(problems) {}
+        : RowReader(table, FileReport(file, problems)), _types(types), _problems(problems) {}
 
     void ReadRow(const CsvTable::Row& row) {
-        _row = &row;
+        UseLine(row);
         TypeDraft* type = Type();
         Rule rule;
         rule.key = Key(type);
@@ -48,12 +48,6 @@ class RuleReader {
     std::size_t BadConditions() const { return _badConditions; }
 
   private:
-    const std::string& Text(const char* column) const { return _table.Cell(*_row, column); }
-
-    void Fail(const char* column, std::string message) {
-        _report.Add(_row->line, column, std::move(message));
-    }
-
     TypeDraft* Type() {
         TypeDraft* type = _types.Find(Text("type"));
         if (type == nullptr && _types.complete) {
@@ -123,11 +117,8 @@ class RuleReader {
                         : told + " has no parameter " + Quoted(name);
     }
 
-    const CsvTable& _table;
     TypeTable& _types;
-    FileReport _report;
     std::vector<Problem>& _problems;
-    const CsvTable::Row* _row = nullptr; ///< the line being read
     std::size_t _badConditions = 0;
 };
 

@@ -1,9 +1,9 @@
 #include "ThreadTable.h"
 
 #include "CellText.h"
-#include "CsvTable.h"
 #include "ElementName.h"
 #include "ForeignTables.h"
+#include "RowReader.h"
 #include "ThreadSpelling.h"
 
 #include <map>
@@ -20,13 +20,13 @@ namespace fs = std::filesystem;
 using Spellings = std::map<std::string, std::string>;
 
 // Reads the lines of a table of threads one after the other.
-class ThreadReader {
+class ThreadReader : private RowReader {
   public:
     ThreadReader(const CsvTable& table, Spellings& spellings, FileReport& report)
-        : _table(table), _spellings(spellings), _report(report) {}
+        : RowReader(table, report), _spellings(spellings) {}
 
     Thread ReadRow(const CsvTable::Row& row) {
-        _row = &row;
+        UseLine(row);
         Thread thread;
         thread.designation = Designation();
         const std::optional<double> major = Number("major_diameter_mm");
@@ -48,12 +48,6 @@ class ThreadReader {
     }
 
   private:
-    const std::string& Text(const char* column) const { return _table.Cell(*_row, column); }
-
-    void Fail(const char* column, std::string message) {
-        _report.Add(_row->line, column, std::move(message));
-    }
-
     std::string Designation() {
         Parsed<std::string> name = ParseElementName(Text("designation"));
         if (!name.value) {
@@ -78,7 +72,7 @@ class ThreadReader {
     }
 
     std::optional<double> NumberOrNone(const char* column) {
-        return _table.HasColumn(column) && !Text(column).empty() ? Number(column) : std::nullopt;
+        return Table().HasColumn(column) && !Text(column).empty() ? Number(column) : std::nullopt;
     }
 
     void ExpectBelow(const char* column, std::optional<double> number, const char* upperColumn,
@@ -89,24 +83,22 @@ class ThreadReader {
         }
     }
 
-    const CsvTable& _table;
     Spellings& _spellings;
-    FileReport& _report;
-    const CsvTable::Row* _row = nullptr; ///< the line being read
 };
 
 // Reads the lines of threads.csv one after the other, each with its table.
-class StandardReader {
+class StandardReader : private RowReader {
   public:
     StandardReader(const CsvTable& table, const fs::path& folder, std::vector<Problem>& problems)
-        : _table(table), _folder(folder), _report(folder / "threads.csv", problems), _problems(problems) {}
+        : RowReader(table, FileReport(folder / "threads.csv", problems)), _folder(folder),
+          _problems(problems) {}
 
     ThreadStandard ReadRow(const CsvTable::Row& row) {
-        _row = &row;
+        UseLine(row);
         ThreadStandard standard;
-        standard.name = Name();
-        standard.standard = _table.Cell(row, "standard");
-        Parsed<std::string> file = ParseTableName(_table.Cell(row, "file"), "threads");
+        standard.name = NewName("name", _names);
+        standard.standard = Text("standard");
+        Parsed<std::string> file = ParseTableName(Text("file"), "threads");
         if (!file.value) {
             _everyFileKnown = false;
             Fail("file", std::move(file.error));
@@ -120,7 +112,7 @@ class StandardReader {
 
     /// Reports tables without a line in threads.csv, where every line could be read.
     void Finish() {
-        if (_table.IsComplete() && _everyFileKnown) {
+        if (Table().IsComplete() && _everyFileKnown) {
             ReportForeignTables(_folder / "threads", _files,
                                 "holds threads of an unknown standard: no line of threads.csv names it",
                                 _problems);
@@ -128,22 +120,6 @@ class StandardReader {
     }
 
   private:
-    void Fail(const char* column, std::string message) {
-        _report.Add(_row->line, column, std::move(message));
-    }
-
-    std::string Name() {
-        Parsed<std::string> name = ParseElementName(_table.Cell(*_row, "name"));
-        if (!name.value) {
-            Fail("name", std::move(name.error));
-            return {};
-        }
-        if (!_names.insert(*name.value).second) {
-            Fail("name", "duplicate name " + Quoted(*name.value));
-        }
-        return std::move(*name.value);
-    }
-
     std::vector<Thread> Threads(const std::string& name) {
         const fs::path file = _folder / "threads" / name;
         std::error_code error;
@@ -169,13 +145,10 @@ class StandardReader {
         return threads;
     }
 
-    const CsvTable& _table;
     const fs::path& _folder;
-    FileReport _report;
     std::vector<Problem>& _problems;
-    const CsvTable::Row* _row = nullptr; ///< the line being read
-    std::set<std::string> _names;        ///< names of standards met so far
-    std::set<std::string> _files;        ///< tables met so far
+    std::set<std::string> _names; ///< names of standards met so far
+    std::set<std::string> _files; ///< tables met so far
     Spellings _spellings;
     bool _everyFileKnown = true;
 };

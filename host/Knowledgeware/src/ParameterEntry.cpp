@@ -3,6 +3,7 @@
 #include "BinaryNoise.h"
 #include "CATIParmAsStored.h"
 #include "CATIParmEvents.h"
+#include "EntryTexts.h"
 #include "Magnitude.h"
 #include "TypedExpression.h"
 #include "TypedNumber.h"
@@ -13,18 +14,18 @@ namespace host {
 
 namespace {
 
-Outcome Refuse(const std::string& iText, const std::string& iReason) {
-    return Outcome::Refused(Quoted(WithoutOuterBlanks(iText)) + " " + iReason);
+Outcome RefuseText(const std::string& iText, EntryText iWhy) {
+    return RefusedFor(iWhy, {Shortened(WithoutOuterBlanks(iText))});
 }
 
-Outcome RefuseFor(CATICkeParm& iParameter, const std::string& iReason) {
-    return Outcome::Refused(std::string(iParameter.Name().ConvertToChar()) + " " + iReason);
+Outcome RefuseFor(CATICkeParm& iParameter, EntryText iWhy, const std::string& iNumber = std::string()) {
+    return RefusedFor(iWhy, {iParameter.Name().ConvertToChar(), iNumber});
 }
 
 Outcome ReadNumber(const std::string& iText, const std::string& iMagnitude, double& oStored) {
     Outcome outcome = TypedExpression::Read(iText, iMagnitude, oStored);
     if (outcome && iMagnitude == "INTEGER" && !Magnitude::Integer().Takes(oStored))
-        return Refuse(iText, "is not a whole number from -2147483648 to 2147483647");
+        return RefuseText(iText, EntryText::NotAWholeNumber);
     return outcome;
 }
 
@@ -34,11 +35,11 @@ Outcome ReadTruth(const std::string& iText, double& oStored) {
     oStored = isTrue ? 1.0 : 0.0;
     if (isTrue || typed == "false" || typed == "0")
         return Outcome::Done();
-    return Refuse(typed, "is neither true nor false");
+    return RefuseText(typed, EntryText::NeitherTrueNorFalse);
 }
 
 Outcome NotTaken(CATICkeParm& ioParameter) {
-    return RefuseFor(ioParameter, "does not take the value");
+    return RefuseFor(ioParameter, EntryText::ValueNotTaken);
 }
 
 std::string InFull(double iNumber) {
@@ -65,7 +66,7 @@ Outcome TypeText(CATICkeParm& ioParameter, const std::string& iText) {
 
 Outcome ParameterEntry::Type(CATICkeParm& ioParameter, const std::string& iText) {
     if (ioParameter.GetUserAccessMode() != 3)
-        return RefuseFor(ioParameter, "is read-only");
+        return RefuseFor(ioParameter, EntryText::ReadOnly);
     const std::string magnitude = ioParameter.Type()->Name().ConvertToChar();
     if (magnitude == "STRING")
         return TypeText(ioParameter, iText);
@@ -76,21 +77,21 @@ Outcome ParameterEntry::Type(CATICkeParm& ioParameter, const std::string& iText)
 
 Outcome ParameterEntry::Step(CATICkeParm& ioParameter, int iSteps, double iIncrement) {
     if (ioParameter.GetUserAccessMode() != 3)
-        return RefuseFor(ioParameter, "is read-only");
+        return RefuseFor(ioParameter, EntryText::ReadOnly);
     Magnitude* const magnitude = Magnitude::Named(ioParameter.Type()->Name());
     const CATIParmAsStored_var asStored(&ioParameter);
     if (magnitude == nullptr || !magnitude->HasSteps() || !asStored)
-        return RefuseFor(ioParameter, "has no steps");
+        return RefuseFor(ioParameter, EntryText::NoSteps);
     const double before = asStored->GetValue();
     const double stored = SumWithoutBinaryNoise(before, iSteps * iIncrement);
     if (iSteps == 0)
         return Outcome::Done();
     if (!std::isfinite(stored))
-        return RefuseFor(ioParameter, "would be too large");
+        return RefuseFor(ioParameter, EntryText::StepTooFar);
     if (!magnitude->Takes(stored))
-        return RefuseFor(ioParameter, "does not take " + InFull(stored));
+        return RefuseFor(ioParameter, EntryText::StepNotTaken, InFull(stored));
     if (stored == before)
-        return RefuseFor(ioParameter, "is too large for steps of " + InFull(iIncrement));
+        return RefuseFor(ioParameter, EntryText::StepTooSmall, InFull(iIncrement));
     return Write(ioParameter, stored);
 }
 

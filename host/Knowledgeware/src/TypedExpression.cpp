@@ -1,11 +1,13 @@
 #include "TypedExpression.h"
 
 #include "BinaryNoise.h"
+#include "EntryTexts.h"
 #include "TypedNumber.h"
 #include "Unit.h"
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -47,17 +49,17 @@ class Lexer {
         if (_needsNumber)
             return NoNumberBehind(_text.back());
         if (_depth > 0)
-            return Refuse("leaves a parenthesis open");
+            return Refuse(EntryText::OpenParenthesis);
         oTokens = std::move(_tokens);
         return Outcome::Done();
     }
 
   private:
-    Outcome Refuse(const std::string& iReason) const {
-        return Outcome::Refused(Quoted(_text) + " " + iReason);
+    Outcome Refuse(EntryText iWhy, const std::string& iDetail = std::string()) const {
+        return RefusedFor(iWhy, {Shortened(_text), iDetail});
     }
     Outcome NoNumberBehind(char iOperator) const {
-        return Refuse(std::string("has no number behind '") + iOperator + "'");
+        return Refuse(EntryText::NoNumberBehind, std::string(1, iOperator));
     }
 
     char Here() const { return _position < _text.size() ? _text[_position] : '\0'; }
@@ -74,7 +76,7 @@ class Lexer {
         if (IsOneOf(Here(), "+-") && NegatesParenthesis())
             return CutSign();
         if (IsOneOf(Here(), "*/)"))
-            return _position == 0 ? Refuse(std::string("has no number before '") + Here() + "'")
+            return _position == 0 ? Refuse(EntryText::NoNumberBefore, std::string(1, Here()))
                                   : NoNumberBehind(_tokens.back().kind);
         const std::string run = TakeRun();
         const bool isSign = run == "+" || run == "-";
@@ -105,7 +107,7 @@ class Lexer {
     Outcome CutBehindNumber() {
         const char here = Here();
         if (here == '(')
-            return Refuse("has no operator before '('");
+            return Refuse(EntryText::NoOperatorBefore);
         if (here == ')')
             return Close();
         if (!IsOneOf(here, "+-*/"))
@@ -118,7 +120,7 @@ class Lexer {
 
     Outcome CutUnit() {
         const std::string run = TakeRun();
-        return IsOneOf(run.front(), "0123456789.,") ? Refuse("has no operator behind ')'") : TakeUnit(run);
+        return IsOneOf(run.front(), "0123456789.,") ? Refuse(EntryText::NoOperatorBehind) : TakeUnit(run);
     }
 
     Outcome TakeUnit(const std::string& iName) {
@@ -127,13 +129,13 @@ class Lexer {
         if (unit != nullptr)
             return Outcome::Done();
         const std::string known = Unit::ListOf(_magnitude);
-        return Outcome::Refused(Quoted(iName) + " is not a unit of " + _magnitude +
-                                (known.empty() ? ", which has none" : ", which has " + known));
+        return RefusedFor(known.empty() ? EntryText::NotAUnitWhereNoneExists : EntryText::NotAUnit,
+                          {Shortened(iName), WordFor(_magnitude), known});
     }
 
     Outcome Open() {
         if (++_depth > deepest)
-            return Refuse("has more than " + std::to_string(deepest) + " parentheses in one another");
+            return Refuse(EntryText::TooManyParentheses, std::to_string(deepest));
         Push('(');
         ++_position;
         return Outcome::Done();
@@ -141,7 +143,7 @@ class Lexer {
 
     Outcome Close() {
         if (--_depth < 0)
-            return Refuse("closes a parenthesis that is not open");
+            return Refuse(EntryText::NotOpenParenthesis);
         Push(')');
         ++_position;
         return Outcome::Done();
@@ -180,8 +182,8 @@ struct Amount {
 // counts.
 class Computation {
   public:
-    Computation(const std::vector<Token>& iTokens, const std::string& iMagnitude)
-        : _magnitude(iMagnitude), _next(iTokens.data()), _end(_next + iTokens.size()) {
+    explicit Computation(const std::vector<Token>& iTokens)
+        : _next(iTokens.data()), _end(_next + iTokens.size()) {
         for (const Token& token : iTokens) {
             if (token.unit == nullptr)
                 continue;
@@ -194,21 +196,21 @@ class Computation {
     double Result() {
         const Amount sum = Sum();
         if (sum.power != (_unit == nullptr ? 0 : 1))
-            NoteProblem("gives no " + _magnitude);
+            NoteProblem(EntryText::OtherMagnitude);
         const double stored = _unit == nullptr || _hasSeveralUnits ? sum.number : sum.number * _unit->stored;
         return Checked(stored);
     }
-    const std::string& Problem() const { return _problem; }
+    const std::optional<EntryText>& Problem() const { return _problem; }
 
   private:
-    void NoteProblem(const std::string& iProblem) {
-        if (_problem.empty())
+    void NoteProblem(EntryText iProblem) {
+        if (!_problem)
             _problem = iProblem;
     }
 
     double Checked(double iNumber) {
         if (!std::isfinite(iNumber))
-            NoteProblem("is too large");
+            NoteProblem(EntryText::TooLarge);
         return iNumber;
     }
 
@@ -264,7 +266,7 @@ class Computation {
         if (iUnit == nullptr)
             return iAmount;
         if (iAmount.power != 0)
-            NoteProblem("has a unit behind what has one already");
+            NoteProblem(EntryText::SecondUnit);
         const double stored = _hasSeveralUnits ? iUnit->stored : 1.0;
         return Amount{Checked(iAmount.number * stored), iAmount.power + 1, false};
     }
@@ -276,9 +278,9 @@ class Computation {
         if (iLeft.power != iRight.power) {
             const Amount& plain = iLeft.power < iRight.power ? iLeft : iRight;
             if (!plain.isBare || power != 1)
-                NoteProblem("adds what does not belong together");
+                NoteProblem(EntryText::UnlikeTerms);
             else if (_hasSeveralUnits)
-                NoteProblem("has several units, and a number without one");
+                NoteProblem(EntryText::NumberWithoutUnit);
         }
         return Amount{Checked(SumWithoutBinaryNoise(iLeft.number, iSign * iRight.number)), power, isBare};
     }
@@ -286,25 +288,24 @@ class Computation {
     Amount Multiplied(const Amount& iLeft, const Amount& iRight) {
         const double number = Checked(iLeft.number * iRight.number);
         if (number == 0.0 && iLeft.number != 0.0 && iRight.number != 0.0)
-            NoteProblem("is too small");
+            NoteProblem(EntryText::TooSmall);
         return Amount{number, iLeft.power + iRight.power, iLeft.isBare && iRight.isBare};
     }
 
     Amount Divided(const Amount& iLeft, const Amount& iRight) {
         if (iRight.number == 0.0)
-            NoteProblem("divides by zero");
+            NoteProblem(EntryText::DivisionByZero);
         const double number = Checked(iLeft.number / iRight.number);
         if (number == 0.0 && iLeft.number != 0.0)
-            NoteProblem("is too small");
+            NoteProblem(EntryText::TooSmall);
         return Amount{number, iLeft.power - iRight.power, iLeft.isBare && iRight.isBare};
     }
 
-    const std::string& _magnitude;
     const Token* _next;
     const Token* const _end;
     const Unit* _unit = nullptr; // the last one that was typed; the only one unless there are several
     bool _hasSeveralUnits = false;
-    std::string _problem;
+    std::optional<EntryText> _problem;
 };
 
 } // namespace
@@ -314,10 +315,11 @@ Outcome TypedExpression::Read(const std::string& iText, const std::string& iMagn
     Outcome cut = Lexer(iText, iMagnitude).Cut(tokens);
     if (!cut)
         return cut;
-    Computation computation(tokens, iMagnitude);
+    Computation computation(tokens);
     const double stored = computation.Result();
-    if (!computation.Problem().empty())
-        return Outcome::Refused(Quoted(WithoutOuterBlanks(iText)) + " " + computation.Problem());
+    if (computation.Problem())
+        return RefusedFor(*computation.Problem(),
+                          {Shortened(WithoutOuterBlanks(iText)), WordFor(iMagnitude)});
     const bool isComputed = tokens.size() > 1;
     oStored = isComputed ? WithoutBinaryNoise(stored) : stored;
     return cut;

@@ -1,5 +1,7 @@
 #include "TypedNumber.h"
 
+#include "EntryTexts.h"
+
 #include <algorithm>
 #include <charconv>
 #include <sstream>
@@ -31,7 +33,8 @@ bool StartsLikeNumber(const std::string& iText) {
 }
 
 Outcome NotANumber(const std::string& iText) {
-    return Outcome::Refused(iText.empty() ? "no number is typed" : Quoted(iText) + " is not a number");
+    return iText.empty() ? RefusedFor(EntryText::NothingTyped)
+                         : RefusedFor(EntryText::NotANumber, {Shortened(iText)});
 }
 
 } // namespace
@@ -44,13 +47,13 @@ std::string WithoutOuterBlanks(const std::string& iText) {
 }
 
 // Cut where a character of UTF-8 begins.
-std::string Quoted(const std::string& iText) {
+std::string Shortened(const std::string& iText) {
     if (iText.size() <= longestQuote)
-        return "'" + iText + "'";
+        return iText;
     std::size_t end = longestQuote;
     while (end > 0 && (static_cast<unsigned char>(iText[end]) & 0xC0U) == 0x80U)
         --end;
-    return "'" + iText.substr(0, end) + "...'";
+    return iText.substr(0, end) + "...";
 }
 
 Outcome TypedNumber::Read(const std::string& iText, TypedNumber& oTyped) {
@@ -62,12 +65,12 @@ Outcome TypedNumber::Read(const std::string& iText, TypedNumber& oTyped) {
     const char* const first = text.data() + (text.front() == '+' ? 1 : 0);
     const std::from_chars_result read = std::from_chars(first, text.data() + text.size(), oTyped.number);
     if (read.ec == std::errc::result_out_of_range)
-        return Outcome::Refused(Quoted(typed) + " is outside the range of numbers");
+        return RefusedFor(EntryText::OutsideRange, {Shortened(typed)});
     if (read.ec != std::errc())
         return NotANumber(typed);
     oTyped.unit = WithoutOuterBlanks(typed.substr(static_cast<std::size_t>(read.ptr - text.data())));
     if (HasNumber(oTyped.unit))
-        return Outcome::Refused(Quoted(typed) + " is more than one number");
+        return RefusedFor(EntryText::SeveralNumbers, {Shortened(typed)});
     return Outcome::Done();
 }
 

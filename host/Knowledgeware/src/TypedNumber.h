@@ -22,8 +22,8 @@ constexpr const char* blanks = " \t\r\n";
 
 // iText without the blanks at its two ends.
 std::string WithoutOuterBlanks(const std::string& iText);
-// The text in quotes, for a sentence; of a long one the beginning.
-std::string Quoted(const std::string& iText);
+// The text as a sentence quotes it: of a long one the beginning, with "..." behind it.
+std::string Shortened(const std::string& iText);
 
 } // namespace host
 

@@ -4,6 +4,7 @@
 
 #include "CATIParmAsStored.h"
 #include "CATIParmTolerance.h"
+#include "NewParameter.h"
 #include "host/Parameters.h"
 #include "support/AuditedTest.h"
 #include "support/ParameterWatcher.h"
@@ -18,18 +19,6 @@ using support::Events;
 using support::ParameterWatcher;
 
 namespace {
-
-CATICkeParm_var NewParameter(const std::string& iMagnitude) {
-    if (iMagnitude == "LENGTH")
-        return Parameters::NewLength("P", 7.0);
-    if (iMagnitude == "ANGLE")
-        return Parameters::NewAngle("P", 7.0);
-    if (iMagnitude == "REAL")
-        return Parameters::NewReal("P", 7.0);
-    if (iMagnitude == "INTEGER")
-        return Parameters::NewInteger("P", 7);
-    return Parameters::NewBoolean("P", true);
-}
 
 struct Good {
     const char* magnitude;

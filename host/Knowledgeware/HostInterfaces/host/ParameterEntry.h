@@ -26,6 +26,8 @@ namespace host {
 //     1/2 in         12.7   a unit behind a product is that of the product
 //     2*3mm + 1cm      16   several units are converted; each thing that is added needs its own then
 //     3*(10mm/4mm)         refused: a ratio, as areas, lengths added to ratios and the like
+//
+// Reasons are English, German, French or Japanese, whichever host/MessageCatalogs.h names; else English.
 class ParameterEntry {
   public:
     // Gives the parameter the typed value and raises its change event. Refused with a sentence that says why,

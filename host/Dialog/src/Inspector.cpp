@@ -24,6 +24,8 @@ namespace host {
 
 namespace {
 
+constexpr std::size_t normalIcon = 0;
+
 bool Contains(const std::vector<int>& iNumbers, int iNumber) {
     return std::find(iNumbers.begin(), iNumbers.end(), iNumber) != iNumbers.end();
 }
@@ -102,20 +104,21 @@ bool Inspector::IsEnabledWithParents(const CATDialog& iWidget) {
 bool Inspector::ShowsTitle(const CATDialog& iWidget) {
     if (!iWidget._drawsTitle)
         return false;
-    return dynamic_cast<const CATDlgLabel*>(&iWidget) == nullptr || Icons(iWidget).normal.empty();
+    return dynamic_cast<const CATDlgLabel*>(&iWidget) == nullptr || IconOf(iWidget, normalIcon).empty();
 }
 
 IconNames Inspector::Icons(const CATDialog& iWidget) {
+    return IconNames{std::string(IconOf(iWidget, normalIcon)), std::string(IconOf(iWidget, 1)),
+                     std::string(IconOf(iWidget, 2)), std::string(IconOf(iWidget, 3))};
+}
+
+std::string_view Inspector::IconOf(const CATDialog& iWidget, std::size_t iState) {
     static const char* const keywords[4] = {"Icon.Normal", "Icon.Selected", "Icon.Focused", "Icon.Disabled"};
-    std::string names[4];
-    for (std::size_t state = 0; state < 4; ++state) {
-        if (iWidget._extras != nullptr)
-            names[state] = iWidget._extras->icons[state].ConvertToChar();
-        if (names[state].empty())
-            if (const std::string* const value = ResourceTexts::Value(iWidget, keywords[state]))
-                names[state] = *value;
-    }
-    return IconNames{names[0], names[1], names[2], names[3]};
+    const char* const set = iWidget._extras == nullptr ? "" : iWidget._extras->icons[iState].ConvertToChar();
+    if (*set != '\0')
+        return set;
+    const std::string* const value = ResourceTexts::Value(iWidget, keywords[iState]);
+    return value == nullptr ? std::string_view() : std::string_view(*value);
 }
 
 std::string Inspector::IconFile(const std::string& iName) {

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class CATDlgCombo;
@@ -111,6 +112,10 @@ class Inspector {
     static Range RangeOf(const CATDlgProgress& iProgress);
     // The value as a person reads it: with the digits behind the point that the precision asks for.
     static std::string ShownText(const CATDlgSpinner& iSpinner);
+
+  private:
+    // The name of the icon of a state, in the order of IconNames.
+    static std::string_view IconOf(const CATDialog& iWidget, std::size_t iState);
 };
 
 } // namespace host

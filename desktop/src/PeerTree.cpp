@@ -126,7 +126,10 @@ void PeerTree::Refresh(CATDialog& ioWidget, unsigned int iKinds) {
     if ((iKinds & placing) != 0)
         NoteContentOf(host::Inspector::Parent(ioWidget));
     constexpr unsigned int naming = placing | host::ChangeTitle | host::ChangeHelp | host::ChangeIcon;
-    if (peer->TakeNeedsRoom() || (iKinds & naming) != 0)
+    const unsigned int named = iKinds & naming;
+    // A window that is shown or hidden as it is has been brought up to date before.
+    const bool isShownAsItIs = host::Inspector::IsWindow(ioWidget) && named == host::ChangeVisibility;
+    if (peer->TakeNeedsRoom() || (named != 0 && !isShownAsItIs))
         NoteWindowOf(ioWidget);
 }
 

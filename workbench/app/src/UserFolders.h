@@ -1,6 +1,6 @@
 #pragma once
 
-// Where the program keeps what belongs to its user, after the XDG base directory specification.
+// Where the program keeps what belongs to its user, in the XDG base directories.
 
 #include <filesystem>
 

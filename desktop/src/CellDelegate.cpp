@@ -44,7 +44,7 @@ bool CellDelegate::helpEvent(QHelpEvent* iEvent, QAbstractItemView* iView,
 void CellDelegate::initStyleOption(QStyleOptionViewItem* oOption, const QModelIndex& iIndex) const {
     QStyledItemDelegate::initStyleOption(oOption, iIndex);
     if (oOption->rect.width() > 0)
-        oOption->text = Shortened(oOption->text, 2 * oOption->rect.width());
+        oOption->text = Shortened(oOption->text, qsizetype{2} * oOption->rect.width());
 }
 
 } // namespace desktop

@@ -18,7 +18,7 @@ QString GivenTitle(const CATDialog& iWidget) {
 QString TitleAround(const CATDialog& iWidget) {
     const CATDialog* box = host::Inspector::Parent(iWidget);
     for (; box != nullptr && !host::Inspector::IsWindow(*box); box = host::Inspector::Parent(*box)) {
-        const QString title = GivenTitle(*box);
+        QString title = GivenTitle(*box);
         if (!title.isEmpty())
             return title;
     }

@@ -60,8 +60,8 @@ QColor ColourOf(const QPalette& palette, QIcon::Mode mode) {
 /// Draws one outline, whatever size and state is asked for.
 class OutlineEngine : public QIconEngine {
   public:
-    OutlineEngine(QPainterPath outline, QPalette palette)
-        : _outline(std::move(outline)), _palette(std::move(palette)) {}
+    OutlineEngine(const QPainterPath& outline, QPalette palette)
+        : _outline(outline), _palette(std::move(palette)) {}
 
     // QIconEngine
     QIconEngine* clone() const override { return new OutlineEngine(*this); }

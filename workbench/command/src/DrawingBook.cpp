@@ -20,10 +20,15 @@ const DrawingBook::Page& DrawingBook::Of(const std::string& typeKey) {
 DrawingBook::Page DrawingBook::Read(const std::string& typeKey) const {
     const std::filesystem::path file =
         typeKey.empty() || !_finder ? std::filesystem::path() : _finder(typeKey);
-    if (file.empty())
-        return {Blank(), {}};
-    pictures::PictureResult read = pictures::ReadPicture(file);
-    return {read.picture ? std::move(read.picture) : Blank(), std::move(read.error)};
+    Page page;
+    if (!file.empty()) {
+        pictures::PictureResult read = pictures::ReadPicture(file);
+        page.image = std::move(read.picture);
+        page.problem = std::move(read.error);
+    }
+    if (!page.image)
+        page.image = Blank();
+    return page;
 }
 
 } // namespace workbench

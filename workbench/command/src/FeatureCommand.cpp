@@ -62,11 +62,12 @@ CATListValCATUnicodeString NamesOf(const std::vector<engineering::ParameterSet>&
 /// The parameter list below a widget, or null. The main panel hands neither the feature's modifications nor
 /// the silence during a change of sets on to it, so the command does.
 OrvKvParameterListSub* ListIn(const CATDialog& widget) {
-    for (CATDialog* child : host::Inspector::Children(widget)) {
-        auto* const list = dynamic_cast<OrvKvParameterListSub*>(child);
-        OrvKvParameterListSub* const found = list != nullptr ? list : ListIn(*child);
-        if (found != nullptr)
-            return found;
+    for (CATDialog* child = host::Inspector::FirstChild(widget); child != nullptr;
+         child = host::Inspector::NextSibling(*child)) {
+        if (auto* const list = dynamic_cast<OrvKvParameterListSub*>(child))
+            return list;
+        if (OrvKvParameterListSub* const list = ListIn(*child))
+            return list;
     }
     return nullptr;
 }

@@ -99,6 +99,17 @@ TEST_F(RulesTest, ASetIsCheckedWhole) {
     EXPECT_EQ(RuleMessages(), Texts());
 }
 
+// On the way from M3 to M10 the through hole is wider than the counterbore for a moment.
+TEST_F(RulesTest, ASoundSetSignalsNothingOnItsWay) {
+    ASSERT_TRUE(Start());
+    ASSERT_TRUE(ChooseType(1));
+    TakeHeard();
+    ASSERT_TRUE(ChooseText("ParameterSetCmb", "DIN 974-1 M10 series 1 fine"));
+    EXPECT_EQ(Command().SetName(), "DIN 974-1 M10 series 1 fine");
+    for (const std::string& heard : TakeHeardClasses())
+        EXPECT_FALSE(heard.starts_with("TriggerStateChange")) << heard;
+}
+
 TEST_F(RulesTest, ARuleThatCannotBeReadIsShownAsAProblemOfTheCatalogueAndPassedOver) {
     StartWithWasher();
     ASSERT_TRUE(ChooseType(1));

@@ -64,7 +64,7 @@ class Axis {
         return block;
     }
 
-    // The next free cell, for a child that is not attached.
+    // The next free cell, for a child that is not attached at all.
     Block PlaceBehind() { return PlaceAt(Count()); }
 
     // One cell.
@@ -126,40 +126,39 @@ unsigned int SidesOf(const Axis::Block& iColumns, const Axis::Block& iRows) {
     return sides;
 }
 
-// The children that are attached across one direction and not in it. They go behind the attached ones: along
-// the container's default orientation one after the other, across it each in the first cell in which it
-// covers no other of them, since their tops or left sides are aligned.
-class HalfAttached {
-  public:
-    HalfAttached(const Axis& iAxis, bool iRunsAlong) : _behind(iAxis.Count()), _runsAlong(iRunsAlong) {}
+constexpr Axis::Block NoCells = {0, 0, true, false};
 
-    Axis::Block Place(Axis& ioAxis, const Axis::Block& iAcross) {
-        if (_runsAlong)
-            return ioAxis.PlaceBehind();
-        int cell = _behind;
-        while (IsTaken(cell, iAcross))
-            ++cell;
-        _taken.push_back({cell, iAcross});
-        return ioAxis.PlaceAt(cell);
-    }
-
-  private:
-    struct Taken {
-        int cell;
-        Axis::Block across;
-    };
-
-    bool IsTaken(int iCell, const Axis::Block& iAcross) const {
-        return std::any_of(_taken.begin(), _taken.end(), [&](const Taken& iTaken) {
-            return iTaken.cell == iCell && iTaken.across.first < iAcross.first + iAcross.span &&
-                   iAcross.first < iTaken.across.first + iTaken.across.span;
-        });
-    }
-
-    int _behind; // the first cell behind the attached ones
-    bool _runsAlong;
-    std::vector<Taken> _taken;
+// The columns and rows of one child, none before it is placed.
+struct Place {
+    bool isInColumns = false; // attached to vertical lines
+    bool isInRows = false;
+    Axis::Block columns = NoCells;
+    Axis::Block rows = NoCells;
 };
+
+typedef Axis::Block Place::*Direction;
+
+bool Overlap(const Axis::Block& iOne, const Axis::Block& iOther) {
+    return iOne.first < iOther.first + iOther.span && iOther.first < iOne.first + iOne.span;
+}
+
+// The place of a child that is attached in one direction only, in the other one.
+int FirstFreeCell(const std::vector<Place>& iPlaces, std::size_t iChild, Direction iAttached,
+                  Direction iOther) {
+    const Axis::Block& line = iPlaces[iChild].*iAttached;
+    Axis::Block cell = {0, 1, true, false};
+    for (std::size_t sibling = 0; sibling < iChild; ++sibling) {
+        const Axis::Block& taken = iPlaces[sibling].*iOther;
+        if (Overlap(iPlaces[sibling].*iAttached, line))
+            cell.first = std::max(cell.first, taken.first + taken.span);
+    }
+    const auto takesTheCell = [&](const Place& iSibling) {
+        return Overlap(iSibling.*iAttached, line) && Overlap(iSibling.*iOther, cell);
+    };
+    while (std::any_of(iPlaces.begin(), iPlaces.end(), takesTheCell))
+        ++cell.first;
+    return cell.first;
+}
 
 // The cell that a child without any attachment gets in one direction: it follows the container's default
 // orientation.
@@ -209,44 +208,83 @@ void KeepEndsApart(LayoutPlan& ioPlan) {
     }
 }
 
+// The end of a child that lies across: the next child in its rows, or the end of the columns.
+int EndAcross(const Cell& iCell, const LayoutPlan& iPlan) {
+    Cell rest = iCell;
+    rest.columnSpan = iPlan.columns - iCell.column;
+    int end = iPlan.columns;
+    for (const Cell& other : iPlan.cells)
+        if (other.column > iCell.column && ShareCells(rest, other))
+            end = std::min(end, other.column);
+    return end;
+}
+
+// Lets the children that are attached in rows only lie across. What they need beyond the columns goes to the
+// one that stretches, else to the last one where everything keeps to its left side, else to one more.
+void LayAcross(const std::vector<Place>& iPlaces, LayoutPlan& ioPlan) {
+    std::vector<Cell*> upToTheEnd;
+    for (std::size_t index = 0; index < iPlaces.size(); ++index) {
+        if (iPlaces[index].isInColumns || !iPlaces[index].isInRows)
+            continue;
+        Cell& cell = ioPlan.cells[index];
+        const int end = EndAcross(cell, ioPlan);
+        cell.columnSpan = end - cell.column;
+        if (end == ioPlan.columns)
+            upToTheEnd.push_back(&cell);
+    }
+    std::vector<bool>& stretches = ioPlan.columnStretches;
+    if (upToTheEnd.empty() || std::find(stretches.begin(), stretches.end(), true) != stretches.end())
+        return;
+    const bool keepsLeft = std::all_of(ioPlan.cells.begin(), ioPlan.cells.end(), [&](const Cell& iCell) {
+        return iCell.column + iCell.columnSpan < ioPlan.columns || IsTiedTo(iCell, CATGRID_LEFT);
+    });
+    if (keepsLeft) {
+        stretches.back() = true;
+        return;
+    }
+    for (Cell* cell : upToTheEnd)
+        ++cell->columnSpan;
+    stretches.push_back(true);
+    ++ioPlan.columns;
+}
+
 LayoutPlan PlanTabulations(const CATDialog& iContainer, const std::vector<CATDialog*>& iChildren) {
     Axis columns(&Inspector::ColumnsOf);
     Axis rows(&Inspector::RowsOf);
     columns.CollectLines(iChildren);
     rows.CollectLines(iChildren);
-    std::vector<Axis::Block> columnBlocks(iChildren.size());
-    std::vector<Axis::Block> rowBlocks(iChildren.size());
+    std::vector<Place> places(iChildren.size());
     for (std::size_t index = 0; index < iChildren.size(); ++index) {
-        if (columns.IsAttached(*iChildren[index]))
-            columnBlocks[index] = columns.PlaceAttached(*iChildren[index]);
-        if (rows.IsAttached(*iChildren[index]))
-            rowBlocks[index] = rows.PlaceAttached(*iChildren[index]);
+        Place& place = places[index];
+        place.isInColumns = columns.IsAttached(*iChildren[index]);
+        place.isInRows = rows.IsAttached(*iChildren[index]);
+        if (place.isInColumns)
+            place.columns = columns.PlaceAttached(*iChildren[index]);
+        if (place.isInRows)
+            place.rows = rows.PlaceAttached(*iChildren[index]);
     }
     const bool isHorizontal = Inspector::DefaultOrientation(iContainer) == Horizontal;
-    HalfAttached withoutColumns(columns, isHorizontal);
-    HalfAttached withoutRows(rows, !isHorizontal);
     LayoutPlan plan;
     plan.cells.reserve(iChildren.size());
     for (std::size_t index = 0; index < iChildren.size(); ++index) {
-        CATDialog* const child = iChildren[index];
-        const bool hasColumns = columns.IsAttached(*child);
-        const bool hasRows = rows.IsAttached(*child);
-        if (!hasColumns)
-            columnBlocks[index] =
-                hasRows ? withoutColumns.Place(columns, rowBlocks[index]) : PlaceFree(columns, isHorizontal);
-        if (!hasRows)
-            rowBlocks[index] =
-                hasColumns ? withoutRows.Place(rows, columnBlocks[index]) : PlaceFree(rows, !isHorizontal);
-        const Axis::Block& column = columnBlocks[index];
-        const Axis::Block& row = rowBlocks[index];
-        plan.cells.push_back(
-            Cell{child, row.first, column.first, row.span, column.span, SidesOf(column, row)});
+        Place& place = places[index];
+        if (!place.isInColumns && !place.isInRows) {
+            place.columns = PlaceFree(columns, isHorizontal);
+            place.rows = PlaceFree(rows, !isHorizontal);
+        } else if (!place.isInColumns) {
+            place.columns = columns.PlaceAt(FirstFreeCell(places, index, &Place::rows, &Place::columns));
+        } else if (!place.isInRows) {
+            place.rows = rows.PlaceAt(FirstFreeCell(places, index, &Place::columns, &Place::rows));
+        }
+        plan.cells.push_back(Cell{iChildren[index], place.rows.first, place.columns.first, place.rows.span,
+                                  place.columns.span, SidesOf(place.columns, place.rows)});
     }
     plan.rows = rows.Count();
     plan.columns = columns.Count();
     plan.rowStretches = rows.TakeStretches();
     plan.columnStretches = columns.TakeStretches();
     KeepEndsApart(plan);
+    LayAcross(places, plan);
     return plan;
 }
 

@@ -36,6 +36,27 @@ class LayoutPlanTest : public DialogTest {
         return text;
     }
 
+    static std::string NameAt(const LayoutPlan& iPlan, int iRow, int iColumn) {
+        for (const Cell& cell : iPlan.cells)
+            if (cell.row <= iRow && iRow < cell.row + cell.rowSpan && cell.column <= iColumn &&
+                iColumn < cell.column + cell.columnSpan)
+                return cell.child->GetName().ConvertToChar();
+        return ".";
+    }
+    // The cells as one text a row with the name of the child in each, or a dot.
+    static Texts DrawnIn(const CATDialog& iContainer) {
+        const LayoutPlan plan = PlanLayout(iContainer);
+        Texts lines;
+        for (int row = 0; row < plan.rows; ++row) {
+            std::string line;
+            for (int column = 0; column < plan.columns; ++column)
+                line += (column > 0 ? " " : "") + NameAt(plan, row, column);
+            lines.push_back(line);
+        }
+        return lines;
+    }
+    Texts Drawn() const { return DrawnIn(frame); }
+
     CATDlgFrame& frame = Make<CATDlgFrame>("Frm");
     CATDlgLabel& a = MakeIn<CATDlgLabel>(frame, "A");
     CATDlgLabel& b = MakeIn<CATDlgLabel>(frame, "B");
@@ -188,13 +209,13 @@ TEST_F(LayoutPlanTest, StacksChildrenThatAreAttachedInColumnsOnly) {
     }
 }
 
-TEST_F(LayoutPlanTest, PutsChildrenThatAreAttachedInRowsOnlyBehindEachOther) {
+TEST_F(LayoutPlanTest, PutsChildrenThatAreAttachedInTheSameRowOnlyBehindEachOther) {
     frame.SetHorizontalAttachment(0, CATDlgTopOrLeft, &a, &b, nullptr);
     frame.SetHorizontalAttachment(1, CATDlgTopOrLeft, &c, nullptr);
-    const LayoutPlan plan = PlanLayout(frame);
-    EXPECT_TRUE(plan.IsLeftOf(a, b));
-    EXPECT_TRUE(plan.IsLeftOf(b, c));
-    EXPECT_TRUE(plan.IsAbove(a, c));
+    for (const CATDlgOrientation orientation : {Horizontal, Vertical}) {
+        frame.SetDefaultOrientation(orientation);
+        EXPECT_EQ(Drawn(), (Texts{"A B", "C C"})) << "each row starts at the left edge";
+    }
 }
 
 // A row of buttons whose columns are told alone, in a container whose children stand side by side; the fourth
@@ -212,13 +233,153 @@ TEST_F(LayoutPlanTest, AlignsTheTopsOfChildrenThatAreAttachedToDifferentColumnsO
     EXPECT_EQ(plan.CellOf(d)->row, 1);
 }
 
-TEST_F(LayoutPlanTest, AlignsTheLeftSidesOfChildrenThatAreAttachedToDifferentRowsOnly) {
+// A child attached to a column only goes where that column has room behind what was created before it.
+TEST_F(LayoutPlanTest, PutsAChildThatIsAttachedInColumnsOnlyIntoTheFirstFreeCellOfItsColumn) {
+    CATDlgLabel& d = MakeIn<CATDlgLabel>(frame, "D");
+    frame.SetVerticalAttachment(0, CATDlgTopOrLeft, &a, &b, &c, nullptr);
+    frame.SetVerticalAttachment(1, CATDlgTopOrLeft, &d, nullptr);
+    frame.SetHorizontalAttachment(0, CATDlgTopOrLeft, &a, nullptr);
+    frame.SetHorizontalAttachment(1, CATDlgTopOrLeft, &d, nullptr);
+    frame.SetHorizontalAttachment(2, CATDlgTopOrLeft, &c, nullptr);
+    EXPECT_EQ(Drawn(), (Texts{"A .", "B D", "C ."}));
+    frame.ResetAttachment(&a, nullptr);
+    frame.SetVerticalAttachment(0, CATDlgTopOrLeft, &a, nullptr);
+    EXPECT_EQ(Drawn(), (Texts{"A D", "C .", "B ."}))
+        << "what is below C is free, above it there is no second";
+    c.SetVisibility(CATDlgHide);
+    EXPECT_EQ(Drawn(), (Texts{"A D", "B ."})) << "a hidden child holds no cell";
+}
+
+TEST_F(LayoutPlanTest, NeverPutsAChildThatIsAttachedInColumnsOnlyBeforeAnOlderSiblingOfItsColumn) {
+    frame.SetVerticalAttachment(0, CATDlgTopOrLeft, &a, &b, nullptr);
+    frame.SetVerticalAttachment(1, CATDlgTopOrLeft, &c, nullptr);
+    frame.SetHorizontalAttachment(1, CATDlgTopOrLeft, &a, nullptr);
+    frame.SetHorizontalAttachment(0, CATDlgTopOrLeft, &c, nullptr);
+    EXPECT_EQ(Drawn(), (Texts{". C", "A .", "B ."}));
+}
+
+TEST_F(LayoutPlanTest, KeepsAChildThatIsAttachedInColumnsOnlyOutOfTheCellsThatSpanningOnesCover) {
+    CATDlgLabel& d = MakeIn<CATDlgLabel>(frame, "D");
+    frame.SetVerticalAttachment(0, CATDlgTopOrLeft, &a, &b, &c, nullptr);
+    frame.SetVerticalAttachment(1, CATDlgTopOrLeft, &d, nullptr);
+    frame.SetVerticalAttachment(2, CATDlgRightOrBottom, &b, nullptr);
+    frame.SetHorizontalAttachment(0, CATDlgTopOrLeft, &a, nullptr);
+    frame.SetHorizontalAttachment(1, CATDlgTopOrLeft, &c, nullptr);
+    frame.SetHorizontalAttachment(2, CATDlgTopOrLeft, &d, nullptr);
+    frame.SetHorizontalAttachment(3, CATDlgRightOrBottom, &c, nullptr);
+    EXPECT_EQ(Drawn(), (Texts{"A .", "C .", "C D", "B B"}));
+}
+
+TEST_F(LayoutPlanTest, LaysAChildThatIsAttachedInRowsOnlyAcrossTheFreeCellsOfItsRow) {
+    CATDlgLabel& d = MakeIn<CATDlgLabel>(frame, "D");
+    frame.SetVerticalAttachment(0, CATDlgTopOrLeft, &a, nullptr);
+    frame.SetVerticalAttachment(2, CATDlgTopOrLeft, &b, nullptr);
+    frame.SetVerticalAttachment(4, CATDlgTopOrLeft, &d, nullptr);
+    frame.SetHorizontalAttachment(0, CATDlgTopOrLeft, &a, &b, &d, nullptr);
+    frame.SetHorizontalAttachment(1, CATDlgTopOrLeft, &c, nullptr);
+    EXPECT_EQ(Drawn(), (Texts{"A B D", "C C C"}));
+    EXPECT_EQ(CellOf(c), "1,0 1x3 10") << "it keeps its natural size";
+    frame.SetHorizontalAttachment(1, CATDlgTopOrLeft, &d, nullptr);
+    EXPECT_EQ(Drawn(), (Texts{"A B .", "C C D"})) << "up to the next child";
+    frame.SetHorizontalAttachment(0, CATDlgTopOrLeft, &c, nullptr);
+    EXPECT_EQ(Drawn(), (Texts{"A B C", ". . D"})) << "behind those that were created before it";
+}
+
+// Where the columns are narrower than the child that lies across them, those keep their width that others
+// see.
+TEST_F(LayoutPlanTest, LetsAChildThatLiesAcrossWidenNoColumnInWhichAnotherWouldMove) {
+    frame.SetVerticalAttachment(0, CATDlgTopOrLeft, &a, nullptr);
+    frame.SetVerticalAttachment(1, CATDlgTopOrLeft, &b, nullptr);
     frame.SetHorizontalAttachment(0, CATDlgTopOrLeft, &a, &b, nullptr);
     frame.SetHorizontalAttachment(1, CATDlgTopOrLeft, &c, nullptr);
-    frame.SetDefaultOrientation(Vertical);
-    const LayoutPlan plan = PlanLayout(frame);
-    EXPECT_TRUE(plan.IsLeftOf(a, b));
-    EXPECT_EQ(plan.CellOf(c)->column, plan.CellOf(a)->column);
+    EXPECT_EQ(Stretches(PlanLayout(frame).columnStretches), ".>") << "B keeps to its left side";
+    frame.SetVerticalAttachment(2, CATDlgRightOrBottom, &b, nullptr);
+    EXPECT_EQ(Drawn(), (Texts{"A B .", "C C C"}));
+    EXPECT_EQ(Stretches(PlanLayout(frame).columnStretches), "..>") << "B reaches from line to line";
+    frame.SetVerticalAttachment(1, CATDlgRightOrBottomRelative, &a, nullptr);
+    EXPECT_EQ(Drawn(), (Texts{"A B", "C C"}));
+    EXPECT_EQ(Stretches(PlanLayout(frame).columnStretches), ">.") << "A takes what there is anyway";
+}
+
+// A panel with two ways to choose, and the fields for each below it.
+class TolerancePlanTest : public LayoutPlanTest {
+  protected:
+    CATDlgFrame& MakeTolerances(CATDialog& ioParent) {
+        auto& panel = *new CATDlgFrame(&ioParent, "Tolerances");
+        const auto make = [&panel](const char* iName) { return new CATDlgLabel(&panel, iName); };
+        fit = make("Fit");
+        CATDialog* const symmetric = make("Symmetric");
+        CATDialog* const free = make("Free");
+        CATDialog* const group = make("Group");
+        CATDialog* const groups = make("Groups");
+        CATDialog* const field = make("Field");
+        CATDialog* const fields = make("Fields");
+        CATDialog* const besideFit = make("GapA");
+        CATDialog* const aboveMax = make("GapB");
+        CATDialog* const max = make("Max");
+        CATDialog* const maxValue = make("MaxValue");
+        CATDialog* const min = make("Min");
+        CATDialog* const minValue = make("MinValue");
+        panel.SetHorizontalAttachment(0, CATDlgTopOrLeft, symmetric, besideFit, fit, nullptr);
+        panel.SetHorizontalAttachment(1, CATDlgTopOrLeft, aboveMax, nullptr);
+        panel.SetHorizontalAttachment(2, CATDlgTopOrLeft, max, group, nullptr);
+        panel.SetHorizontalAttachment(3, CATDlgTopOrLeft, maxValue, groups, nullptr);
+        panel.SetHorizontalAttachment(4, CATDlgTopOrLeft, min, field, nullptr);
+        panel.SetHorizontalAttachment(5, CATDlgTopOrLeft, minValue, fields, nullptr);
+        panel.SetVerticalAttachment(0, CATDlgTopOrLeft, symmetric, free, max, maxValue, min, minValue,
+                                    nullptr);
+        panel.SetVerticalAttachment(1, CATDlgTopOrLeft, besideFit, nullptr);
+        panel.SetVerticalAttachment(2, CATDlgTopOrLeft, fit, group, groups, field, fields, nullptr);
+        ofFit = {group, groups, field, fields};
+        return panel;
+    }
+
+    CATDialog* fit = nullptr;
+    std::vector<CATDialog*> ofFit; // shown in one of the ways only
+};
+
+TEST_F(TolerancePlanTest, PutsWhatIsAttachedInOneDirectionBesideItsNeighbours) {
+    const CATDlgFrame& panel = MakeTolerances(frame);
+    EXPECT_EQ(DrawnIn(panel), (Texts{
+                                  "Symmetric GapA Fit",
+                                  "Free GapB GapB",
+                                  "Max . Group",
+                                  "MaxValue . Groups",
+                                  "Min . Field",
+                                  "MinValue . Fields",
+                              }));
+}
+
+TEST_F(TolerancePlanTest, StaysInPlaceWhenTheFieldsOfOneWayAreHidden) {
+    const CATDlgFrame& panel = MakeTolerances(frame);
+    for (CATDialog* const each : ofFit)
+        each->SetVisibility(CATDlgHide);
+    EXPECT_EQ(DrawnIn(panel), (Texts{"Symmetric GapA Fit", "Free GapB GapB", "Max . .", "MaxValue . .",
+                                     "Min . .", "MinValue . ."}));
+    fit->SetVisibility(CATDlgHide);
+    EXPECT_EQ(DrawnIn(panel),
+              (Texts{"Symmetric GapA", "Free GapB", "Max .", "MaxValue .", "Min .", "MinValue ."}));
+}
+
+// A value with its name beside it, a box to tick below the value, and a panel under all that.
+TEST_F(TolerancePlanTest, LiesAcrossBelowTheNameAndTheValueOfAParameter) {
+    CATDlgFrame& box = Make<CATDlgFrame>("Box");
+    auto* const name = new CATDlgLabel(&box, "Name");
+    auto* const value = new CATDlgLabel(&box, "Value");
+    auto* const tick = new CATDlgLabel(&box, "Tick");
+    auto* const gap = new CATDlgLabel(&box, "Gap");
+    CATDlgFrame& panel = MakeTolerances(box);
+    box.SetHorizontalAttachment(0, CATDlgTopOrLeft, name, gap, value, nullptr);
+    box.SetHorizontalAttachment(1, CATDlgTopOrLeft, tick, nullptr);
+    box.SetHorizontalAttachment(2, CATDlgTopOrLeft, &panel, nullptr);
+    box.SetVerticalAttachment(0, CATDlgTopOrLeft, name, nullptr);
+    box.SetVerticalAttachment(1, CATDlgTopOrLeft, gap, nullptr);
+    box.SetVerticalAttachment(2, CATDlgTopOrLeft, value, tick, nullptr);
+    EXPECT_EQ(DrawnIn(box), (Texts{"Name Gap Value", ". . Tick", "Tolerances Tolerances Tolerances"}));
+    EXPECT_EQ(Stretches(PlanLayout(box).columnStretches), "..>");
+    panel.SetVisibility(CATDlgHide);
+    EXPECT_EQ(DrawnIn(box), (Texts{"Name Gap Value", ". . Tick"}));
+    EXPECT_EQ(Stretches(PlanLayout(box).columnStretches), "...");
 }
 
 TEST_F(LayoutPlanTest, LetsUnattachedChildrenFollowBehindTheAttachedOnesInBothOrientations) {

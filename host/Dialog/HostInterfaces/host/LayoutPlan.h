@@ -24,10 +24,14 @@ struct Cell {
 //
 // Tabulation lines become the borders between columns and rows; a child with one side attached keeps its
 // natural size in the cell beside the line, one with two sides attached covers the cells between them.
-// Columns and rows that end on a stretching line take the surplus space. Children that are not attached in a
-// direction follow in their order of creation there, behind the attached ones, so that nothing overlaps;
-// across the default orientation those stand beside each other that are attached to other lines. A child that
-// only ends on a vertical line stands between that line and a child that spans up to it.
+// Columns and rows that end on a stretching line take the surplus space. A child that only ends on a vertical
+// line stands between that line and a child that spans up to it.
+//
+// A child that is attached in one direction only stays in its own line: in the other direction it gets the
+// first free cell behind those siblings in this line that were created before it. One that is attached in
+// rows only belongs to no column: it lies across the free cells that follow too, and what it needs beyond the
+// columns moves nothing in the other rows. Children without any attachment follow in their order of creation
+// along the default orientation, behind the attached ones. None of these covers another child.
 struct LayoutPlan {
     int rows = 0;
     int columns = 0;

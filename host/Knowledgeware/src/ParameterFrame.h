@@ -20,6 +20,8 @@ class ParameterFrame : public ValueFrame {
     ParameterFrame(const ParameterFrame&) = delete;
     ParameterFrame& operator=(const ParameterFrame&) = delete;
 
+    const CATICkeParm_var& EditedParameter() const { return _kept; }
+
     // ValueFrame
     std::string ShownValue() const override;
     bool IsEditable() const override;

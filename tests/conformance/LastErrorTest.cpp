@@ -71,6 +71,14 @@ CERTAIN(LastErrors, ASuccessHasNoErrorBehindIt) {
     EXPECT_NE(nullptr, Last(result));
 }
 
+ASSUMED(LastErrors, AFailingCodeOfAnotherValueHasNoErrorBehindIt,
+        "open: errors are attached to the general failure alone") {
+    Fail(new SampleError);
+    EXPECT_EQ(nullptr, Last(E_NOINTERFACE));
+    EXPECT_EQ(nullptr, Last(E_NOTIMPL));
+    EXPECT_NE(nullptr, Last(E_FAIL));
+}
+
 CERTAIN(LastErrors, CleaningForgetsTheError) {
     const HRESULT result = Fail(new SampleError);
     CATError::CATCleanLastError();

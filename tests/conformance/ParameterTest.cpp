@@ -5,6 +5,7 @@
 #include "DecimalComma.h"
 #include "ParameterFacts.h"
 
+#include <functional>
 #include <limits>
 
 namespace {
@@ -174,6 +175,20 @@ ASSUMED(Parameters, ANumberThatTheTypeCannotHaveIsRefused, "open: an invalid val
     EXPECT_EQ(S_OK, integer->Valuate(-7.0));
     EXPECT_EQ(S_OK, boolean->Valuate(0));
     EXPECT_EQ(0.0, Stored(boolean));
+}
+
+ASSUMED(Parameters, ARefusedValueHasNoErrorOfAnOlderFailureBehindIt,
+        "open: nobody may take what went wrong before for the reason") {
+    const CATIParmTolerance_var tolerance(length);
+    const std::function<HRESULT()> refused[] = {
+        [&] { return length->Valuate(infinity); }, [&] { return length->Valuate(CATUnicodeString("wide")); },
+        [&] { return CATIParmAsStored_var(length)->SetValue(infinity); },
+        [&] { return tolerance->SetMaxTolerance(infinity); },
+        [&] { return tolerance->SetMinTolerance(-infinity); }};
+    for (const std::function<HRESULT()>& write : refused) {
+        CATError::GetReturn(2, new SampleError("Older"), nullptr, __FILE__, __LINE__);
+        EXPECT_EQ(nullptr, Owned<CATError>(CATError::CATGetLastError(write())));
+    }
 }
 
 ASSUMED(Parameters, AStringHasNoStoredNumber, "open: there is none to give") {

@@ -6,7 +6,8 @@ class CATUnicodeString;
 // Raises errors inside guarded blocks. No operation returns.
 class OrvKvErr {
   public:
-    // Raises the error attached to a failing code; a fresh error "Error_UnknownError" when the code has none.
+    // Raises the error attached to a failing code. When the code has none: a fresh "Error_UnknownError" that
+    // says in the user's language that no reason is known.
     [[noreturn]] static void Throw(long iRC);
     // Raises "Error_NoInterface" of the add-in's error catalogue.
     [[noreturn]] static void Throw_NoInterface();

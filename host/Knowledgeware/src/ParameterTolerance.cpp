@@ -1,5 +1,6 @@
 #include "ParameterTolerance.h"
 
+#include "FailedWithoutReason.h"
 #include "Parameter.h"
 
 #include <cmath>
@@ -10,7 +11,7 @@ CATImplementClass(ParameterTolerance, TransientExtension, CATBaseUnknown, Parame
 
 HRESULT ParameterTolerance::Unset() {
     if (FaultPoints::Fails("parameter write"))
-        return E_FAIL;
+        return FailedWithoutReason();
     _maximum = 0.0;
     _minimum = 0.0;
     _isSet = false;
@@ -19,7 +20,7 @@ HRESULT ParameterTolerance::Unset() {
 
 HRESULT ParameterTolerance::Set(double& oDeviation, double iDeviation) {
     if (!std::isfinite(iDeviation) || FaultPoints::Fails("parameter write"))
-        return E_FAIL;
+        return FailedWithoutReason();
     oDeviation = WithoutMinusZero(iDeviation);
     _isSet = true;
     return S_OK;

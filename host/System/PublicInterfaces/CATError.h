@@ -54,8 +54,8 @@ class CATError : public CATBaseUnknown {
     // the last error is forgotten. iFile and iLine tell where.
     static HRESULT GetReturn(int iKind, CATError* iError, void* iReserved, const char* iFile, int iLine);
 
-    // The error behind a failing result, with a reference for the caller; null for a success or when there is
-    // none.
+    // The error behind a failing result of GetReturn, with a reference for the caller; null for any other
+    // result and when there is none.
     static CATError* CATGetLastError(HRESULT iResult, CATError* iReserved = nullptr);
     // Forgets the last error and releases it.
     static void CATCleanLastError();

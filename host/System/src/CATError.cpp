@@ -91,7 +91,7 @@ HRESULT CATError::GetReturn(int iKind, CATError* iError, void*, const char* iFil
 }
 
 CATError* CATError::CATGetLastError(HRESULT iResult, CATError*) {
-    CATError* const error = FAILED(iResult) ? host::LastError::Get() : nullptr;
+    CATError* const error = iResult == E_FAIL ? host::LastError::Get() : nullptr;
     if (error != nullptr)
         error->AddRef();
     return error;

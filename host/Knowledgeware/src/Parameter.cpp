@@ -1,6 +1,7 @@
 #include "Parameter.h"
 
 #include "CATCallbackManager.h"
+#include "FailedWithoutReason.h"
 #include "ParameterFrame.h"
 #include "ParameterNotifications.h"
 #include "Publisher.h"
@@ -93,11 +94,10 @@ HRESULT Parameter::Valuate(int iValue) {
 
 HRESULT Parameter::Valuate(const CATUnicodeString& iText) {
     if (_text == nullptr || FaultPoints::Fails("parameter write"))
-        return E_FAIL;
-    if (*_text != iText) {
-        *_text = iText;
-        TellFrames();
-    }
+        return FailedWithoutReason();
+    const bool isNew = *_text != iText;
+    *_text = iText;
+    TellFrames(isNew);
     _events.RaiseChange(1);
     return S_OK;
 }
@@ -120,16 +120,15 @@ void Parameter::SetUserAccessMode(int iMode) {
     if ((iMode != 1 && iMode != 3) || iMode == _accessMode)
         return;
     _accessMode = iMode;
-    TellFrames();
+    TellFrames(true);
 }
 
 HRESULT Parameter::Store(double iStored) {
     if (!_magnitude.Takes(iStored) || FaultPoints::Fails("parameter write"))
-        return E_FAIL;
-    if (_stored == iStored)
-        return S_OK;
+        return FailedWithoutReason();
+    const bool isNew = _stored != iStored;
     _stored = WithoutMinusZero(iStored);
-    TellFrames();
+    TellFrames(isNew);
     return S_OK;
 }
 
@@ -139,11 +138,13 @@ ParameterEdition& Parameter::Edition() {
     return *_edition;
 }
 
-void Parameter::TellFrames() {
+// A value that is stored again takes the place of a text that a frame has not taken.
+void Parameter::TellFrames(bool iIsNew) {
     if (_edition == nullptr)
         return;
     for (ParameterFrame* const frame : _edition->frames)
-        frame->Follow();
+        if (iIsNew || frame->IsRefused())
+            frame->Follow();
 }
 
 void Parameter::Raise(CATNotification& ioNotification) {

@@ -72,7 +72,7 @@ class Parameter : public Component<CATICkeParm> {
     static Parameter* Make(Magnitude& iMagnitude, const CATUnicodeString& iName);
     static CATICkeParm_var Adopted(Parameter* iMade);
     ParameterEdition& Edition();
-    void TellFrames();
+    void TellFrames(bool iIsNew);
 
     CATUnicodeString _name;
     Magnitude& _magnitude;

@@ -136,9 +136,11 @@ TEST_F(ParameterFrameTest, FollowsAText) {
 
 TEST_F(ParameterFrameTest, StaysAsItIsWhereNothingChanges) {
     ValueFrame& frame = Build(depth);
+    ContentWatcher unrefused(frame);
+    EXPECT_EQ(CATIParmAsStored_var(depth)->SetValue(12.5), S_OK);
+    EXPECT_EQ(unrefused.Take(), 0);
     ASSERT_TRUE(DialogUser::Type(frame, "wide"));
     ContentWatcher watcher(frame);
-    EXPECT_EQ(CATIParmAsStored_var(depth)->SetValue(12.5), S_OK);
     EXPECT_EQ(CATIParmAsStored_var(depth)->SetValue(std::numeric_limits<double>::infinity()), E_FAIL);
     CATIParmEvents_var(depth)->RaiseChange(1);
     depth->SetUserAccessMode(3);
@@ -170,6 +172,15 @@ TEST_F(ParameterFrameTest, AWrongTextStaysWithItsReasonAndTheLastValueStaysInFor
     ASSERT_TRUE(DialogUser::Type(frame, "3 deg"));
     depth->SetUserAccessMode(1);
     EXPECT_EQ(frame.Text(), "13mm") << "nobody could put the text right";
+}
+
+TEST_F(ParameterFrameTest, AWrongTextGivesWayToAStoredValueThatIsTheSameAgain) {
+    ValueFrame& frame = Build(depth);
+    ASSERT_TRUE(DialogUser::Type(frame, "wide"));
+    ASSERT_EQ(frame.Text(), "wide");
+    EXPECT_EQ(CATIParmAsStored_var(depth)->SetValue(12.5), S_OK);
+    EXPECT_EQ(frame.Text(), "12.5mm");
+    EXPECT_EQ(frame.Problem(), "");
 }
 
 TEST_F(ParameterFrameTest, TypingTheShownValueKeepsTheDigitsThatAreNotShown) {

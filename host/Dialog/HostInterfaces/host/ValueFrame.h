@@ -12,7 +12,7 @@ namespace host {
 // arrows. Other frameworks derive their editors from it; DialogUser types and spins, viewers show it.
 //
 // A text that is no value stays in the field with the reason beside it, and the value that was there stays in
-// force, until the next text, a changed value or Restore. The frame has no widgets of its own in it.
+// force, until the next text, the next stored value or Restore. The frame has no widgets of its own in it.
 class ValueFrame : public CATDlgFrame {
     CATDeclareClass;
 

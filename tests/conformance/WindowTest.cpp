@@ -10,6 +10,22 @@ namespace {
 
 class Windows : public DialogTest {};
 
+// A dialog that is linked to the power input for its whole life.
+class PowerInputPanel : public CATDlgDialog {
+  public:
+    explicit PowerInputPanel(CATDialog* iParent) : CATDlgDialog(iParent, "Edit") {
+        SetPowerInputLink(1);
+        UpdatePowerInput();
+    }
+    ~PowerInputPanel() override {
+        SetPowerInputLink(0);
+        UpdatePowerInput();
+        ReleasePowerInputFocus();
+    }
+    PowerInputPanel(const PowerInputPanel&) = delete;
+    PowerInputPanel& operator=(const PowerInputPanel&) = delete;
+};
+
 } // namespace
 
 ASSUMED(Windows, TheApplicationFrameIsAlwaysThere, "open: the panels do not test for null") {
@@ -89,6 +105,23 @@ ASSUMED(Windows, ReleasingThePowerInputWithoutHavingItIsHarmless,
     panel->ReleasePowerInputFocus();
     EXPECT_EQ(Journal(), journal);
     EXPECT_EQ(CATDlgEnable, panel->GetSensitivity());
+}
+
+CERTAIN(Windows, APanelGivesThePowerInputBackWhileItIsDestroyed) {
+    auto* const edit = new PowerInputPanel(panel);
+    edit->TakePowerInputFocus();
+    delete edit;
+    panel->TakePowerInputFocus();
+    panel->ReleasePowerInputFocus();
+    EXPECT_EQ(Journal(), journal);
+}
+
+ASSUMED(Windows, TheStyleOfAnEditDialogIsThatOfANameDialogWithoutModal,
+        "deduced from the sums that the panels pass; both have OK, Cancel and Apply") {
+    const CATDlgStyle buttons =
+        CATDlgWndOK | CATDlgWndCANCEL | CATDlgWndAPPLY | CATDlgWndHELP | CATDlgWndNoButton | CATDlgWndModal;
+    EXPECT_EQ(CATDlgWndOK | CATDlgWndCANCEL | CATDlgWndAPPLY, 0x601C00UL & buttons);
+    EXPECT_EQ(CATDlgWndModal, 0x601C00UL ^ 0x601E00UL);
 }
 
 ASSUMED(Windows, AMessageReturnsTheStandardButtonOfItsAnswer,

@@ -1,6 +1,7 @@
 #include "CATDlgDialog.h"
 
 #include "DialogTest.h"
+#include "host/EventScope.h"
 #include "host/Inspector.h"
 
 namespace {
@@ -27,6 +28,7 @@ TEST_F(CATDlgDialogTest, HasTheButtonsOfItsStyle) {
               (Buttons{CATDlgWndOK, CATDlgWndAPPLY, CATDlgWndCANCEL, CATDlgWndHELP}));
     EXPECT_EQ(Inspector::ButtonsOfStyle(0x444000), Buttons());
     EXPECT_EQ(Inspector::ButtonsOfStyle(0x601E00), (Buttons{CATDlgWndOK, CATDlgWndAPPLY, CATDlgWndCANCEL}));
+    EXPECT_EQ(Inspector::ButtonsOfStyle(0x601C00), (Buttons{CATDlgWndOK, CATDlgWndAPPLY, CATDlgWndCANCEL}));
     EXPECT_EQ(Inspector::ButtonsOfStyle(0x640400), Buttons{CATDlgWndOK});
     EXPECT_EQ(Inspector::ButtonsOfStyle(CATDlgWndCLOSE), Buttons{CATDlgWndCLOSE});
     EXPECT_EQ(Inspector::ButtonsOfStyle(CATDlgWndNoButton | CATDlgWndOK), Buttons());
@@ -88,6 +90,30 @@ TEST_F(CATDlgDialogTest, PressesItsDefaultButtonOnEnter) {
     EXPECT_EQ(name.TakeHeard(), Texts());
 }
 
+// The style of a dialog in which a value is edited.
+TEST_F(CATDlgDialogTest, TakesEnterForOkAndEscapeForCancelInAnEditDialog) {
+    ListeningDialog& edit = MakeHeard("Edit", 0x601C00);
+    EXPECT_EQ(edit.GetDefaultButton(), CATDlgWndOK);
+    EXPECT_EQ(Result(DialogUser::PressEnter(edit)), "done");
+    EXPECT_EQ(Result(DialogUser::PressStandardButton(edit, CATDlgWndAPPLY)), "done");
+    EXPECT_EQ(Result(DialogUser::PressEscape(edit)), "done");
+    EXPECT_EQ(edit.TakeHeard(), (Texts{"DiaOK Edit", "DiaAPPLY Edit", "DiaCANCEL Edit"}));
+    EXPECT_EQ(edit.GetVisibility(), CATDlgShow);
+    EXPECT_EQ(Result(DialogUser::PressStandardButton(edit, CATDlgWndHELP)), "Edit has no button Help");
+    EXPECT_EQ(Result(DialogUser::PressStandardButton(edit, CATDlgWndCLOSE)), "Edit has no button Close");
+}
+
+TEST_F(CATDlgDialogTest, LetsAPersonWorkOutsideAnEditDialogButNotOutsideAModalOne) {
+    ListeningDialog& other = MakeHeard("Other", CATDlgWndOK);
+    ListeningDialog& edit = MakeHeard("Edit", 0x601C00);
+    EXPECT_EQ(Result(DialogUser::PressEnter(other)), "done");
+    edit.SetVisibility(CATDlgHide);
+    ListeningDialog& name = MakeHeard("Name", 0x601E00);
+    EXPECT_NE(Result(DialogUser::PressEnter(other)), "done");
+    EXPECT_EQ(Result(DialogUser::PressEnter(name)), "done");
+    EXPECT_EQ(other.TakeHeard(), Texts{"DiaOK Other"});
+}
+
 TEST_F(CATDlgDialogTest, PressesCancelOnEscapeAndElseItsCloseBox) {
     ListeningDialog& cancelled = MakeHeard("Cancelled", CATDlgWndOK | CATDlgWndCANCEL);
     ListeningDialog& closed = MakeHeard("Closed", CATDlgWndOK);
@@ -120,6 +146,40 @@ TEST_F(CATDlgDialogTest, CountsTheUpdatesOfThePowerInputAndItsLink) {
     EXPECT_EQ(Inspector::PowerInputUpdates(*dialog), 2);
     dialog->SetPowerInputLink(0);
     EXPECT_FALSE(Inspector::IsPowerInputLinked(*dialog));
+}
+
+TEST_F(CATDlgDialogTest, HasNoPowerInputLinkAtFirstAndTakesTheFocusWithOrWithoutOne) {
+    dialog->TakePowerInputFocus();
+    EXPECT_EQ(Inspector::PowerInputOwner(), dialog);
+    EXPECT_FALSE(Inspector::IsPowerInputLinked(*dialog));
+    dialog->SetPowerInputLink(1);
+    dialog->SetPowerInputLink(0);
+    EXPECT_EQ(Inspector::PowerInputOwner(), dialog) << "the link is another thing";
+    EXPECT_EQ(Inspector::PowerInputUpdates(*dialog), 0);
+}
+
+TEST_F(CATDlgDialogTest, GivesThePowerInputFocusAwayWhenItIsDestroyed) {
+    ListeningDialog& inner = MakeIn<ListeningDialog>(*dialog, "Inner", 0);
+    inner.TakePowerInputFocus();
+    inner.RequestDelayedDestruction();
+    host::EventScope::RunIdle();
+    EXPECT_EQ(Inspector::PowerInputOwner(), nullptr) << "destroyed in the main loop";
+    CATDlgDialog& last = MakeIn<CATDlgDialog>(MakeIn<CATDlgDialog>(*dialog, "Outer"), "Last");
+    last.TakePowerInputFocus();
+    delete Inspector::Parent(last);
+    EXPECT_EQ(Inspector::PowerInputOwner(), nullptr) << "destroyed with its parent";
+}
+
+TEST_F(CATDlgDialogTest, KeepsThePowerInputFocusWhenACopyOfItGoes) {
+    dialog->SetPowerInputLink(1);
+    dialog->TakePowerInputFocus();
+    {
+        CATDlgDialog copy(*dialog);
+        copy.ReleasePowerInputFocus();
+        EXPECT_EQ(Inspector::PowerInputOwner(), dialog);
+    }
+    EXPECT_EQ(Inspector::PowerInputOwner(), dialog);
+    EXPECT_TRUE(Inspector::IsPowerInputLinked(*dialog));
 }
 
 TEST_F(CATDlgDialogTest, HasThePowerInputFocusAloneUntilItReleasesItOrGoes) {

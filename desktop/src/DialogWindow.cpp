@@ -1,5 +1,6 @@
 #include "DialogWindow.h"
 
+#include "EnterKey.h"
 #include "WindowPeer.h"
 
 #include <QtGui/QCloseEvent>
@@ -17,19 +18,23 @@ void DialogWindow::reject() {
         _peer->PressEscape();
 }
 
-// A focused button takes Enter for itself, otherwise it is for the default button.
+bool DialogWindow::focusNextPrevChild(bool iNext) {
+    return _peer != nullptr && _peer->MoveFocus(iNext);
+}
+
+// A focused button takes Enter for itself, otherwise it is for the default button. A key that is held down
+// for a field does not go on to end the dialog.
 void DialogWindow::keyPressEvent(QKeyEvent* iEvent) {
-    if (_peer == nullptr)
-        return;
-    if (iEvent->matches(QKeySequence::Cancel)) {
-        _peer->PressEscape();
-        return;
-    }
-    if (iEvent->key() != Qt::Key_Return && iEvent->key() != Qt::Key_Enter) {
+    const bool isEscape = iEvent->matches(QKeySequence::Cancel);
+    if (!isEscape && !IsEnter(*iEvent)) {
         QDialog::keyPressEvent(iEvent);
         return;
     }
-    if (auto* const button = qobject_cast<QPushButton*>(focusWidget()))
+    if (_peer == nullptr || iEvent->isAutoRepeat())
+        return;
+    if (isEscape)
+        _peer->PressEscape();
+    else if (auto* const button = qobject_cast<QPushButton*>(focusWidget()))
         button->click();
     else
         _peer->PressEnter();

@@ -7,8 +7,8 @@ namespace desktop {
 
 class WindowPeer;
 
-// The window of a dialog. It passes Enter, Escape, its close box and a new place on to its peer, and never
-// closes by itself.
+// The window of a dialog. It passes Tab, Enter, Escape, its close box and a new place on to its peer, and
+// never closes by itself.
 class DialogWindow : public QDialog {
   public:
     explicit DialogWindow(QWidget* iParent);
@@ -20,6 +20,7 @@ class DialogWindow : public QDialog {
     void reject() override;
 
   protected:
+    bool focusNextPrevChild(bool iNext) override;
     void keyPressEvent(QKeyEvent* iEvent) override;
     void closeEvent(QCloseEvent* iEvent) override;
     void moveEvent(QMoveEvent* iEvent) override;

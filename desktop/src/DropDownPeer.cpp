@@ -1,6 +1,7 @@
 #include "DropDownPeer.h"
 
 #include "CATDlgCombo.h"
+#include "EnterKey.h"
 #include "LineModel.h"
 #include "host/DialogUser.h"
 #include "host/Inspector.h"
@@ -53,6 +54,7 @@ class DropDownBox : public QComboBox {
 DropDownPeer::DropDownPeer(PeerTree& ioTree, CATDlgCombo& ioCombo, QWidget* iParent)
     : Peer(ioTree, ioCombo, new DropDownBox(iParent, [this] { return OpenList(); })), _combo(ioCombo),
       _box(static_cast<QComboBox*>(Widget())), _lines(new LineModel(ioCombo, _box)) {
+    LeaveEnterToWindow(*_box);
     _box->setModel(_lines);
     connect(_box, &QComboBox::activated, this, [this](int iLine) {
         Perform([this, iLine] { return host::DialogUser::Choose(_combo, iLine); });
@@ -76,6 +78,9 @@ void DropDownPeer::ShowState(unsigned int iKinds) {
     if ((iKinds & (host::ChangeContent | host::ChangeLayout)) != 0)
         ShowWidth();
     _box->setCurrentIndex(_combo.GetSelect());
+    const bool isFilledAnew = (iKinds & host::ChangeContent) != 0;
+    if (isFilledAnew && _box->view()->isVisible()) // and has forgotten where it was
+        _box->view()->setCurrentIndex(_lines->index(_combo.GetSelect()));
 }
 
 void DropDownPeer::ShowWidth() {

@@ -84,6 +84,8 @@ void GridArranger::Place(const host::Cell& iCell, QGridLayout& ioGrid) const {
     Qt::Alignment alignment = AlignmentOf(iCell.sides);
     if (IsRowOfLines(iCell.row))
         alignment &= ~Qt::AlignTop;
+    if (IsBoxAcross(iCell))
+        alignment &= ~Qt::AlignLeft;
     ioGrid.addWidget(widget, iCell.row, iCell.column, iCell.rowSpan, iCell.columnSpan, alignment);
 }
 
@@ -91,6 +93,12 @@ void GridArranger::Place(const host::Cell& iCell, QGridLayout& ioGrid) const {
 bool GridArranger::IsSpacer(const host::Cell& iCell) const {
     return dynamic_cast<const ContainerPeer*>(_tree.PeerOf(*iCell.child)) != nullptr &&
            host::Inspector::FirstChild(*iCell.child) == nullptr;
+}
+
+// A box across all columns ends where the window ends, whatever is in it.
+bool GridArranger::IsBoxAcross(const host::Cell& iCell) const {
+    return iCell.columnSpan > 1 && iCell.columnSpan == _plan.columns &&
+           _tree.PeerOf(*iCell.child)->Widget()->inherits("QGroupBox");
 }
 
 // The last row with more than spacers; -1 for none.

@@ -21,6 +21,7 @@ class GridArranger {
 
   private:
     void Place(const host::Cell& iCell, QGridLayout& ioGrid) const;
+    bool IsBoxAcross(const host::Cell& iCell) const;
     bool IsSpacer(const host::Cell& iCell) const;
     int LastRowInUse() const;
     bool IsRowOfLines(int iRow) const;

@@ -8,9 +8,6 @@
 #include "Texts.h"
 #include "WindowPeer.h"
 #include "host/Inspector.h"
-#include "host/LayoutPlan.h"
-
-#include <QtWidgets/QPushButton>
 
 #include <algorithm>
 
@@ -27,22 +24,32 @@ bool IsBelow(const host::Cell& iCell, const host::Cell& iLabel) {
     return iCell.column == iLabel.column && iCell.row >= iLabel.row + iLabel.rowSpan;
 }
 
-// The cells right of a label from left to right, then those below it from top to bottom.
-std::vector<host::Cell> CellsAfter(const host::LayoutPlan& iPlan, const host::Cell& iLabel) {
+// From left to right.
+std::vector<host::Cell> CellsRightOf(const host::LayoutPlan& iPlan, const host::Cell& iLabel) {
     std::vector<host::Cell> right;
-    std::vector<host::Cell> below;
-    for (const host::Cell& cell : iPlan.cells) {
+    for (const host::Cell& cell : iPlan.cells)
         if (IsRightOf(cell, iLabel))
             right.push_back(cell);
-        else if (IsBelow(cell, iLabel))
-            below.push_back(cell);
-    }
     std::stable_sort(right.begin(), right.end(),
                      [](const host::Cell& a, const host::Cell& b) { return a.column < b.column; });
+    return right;
+}
+
+// From top to bottom.
+std::vector<host::Cell> CellsBelow(const host::LayoutPlan& iPlan, const host::Cell& iLabel) {
+    std::vector<host::Cell> below;
+    for (const host::Cell& cell : iPlan.cells)
+        if (IsBelow(cell, iLabel))
+            below.push_back(cell);
     std::stable_sort(below.begin(), below.end(),
                      [](const host::Cell& a, const host::Cell& b) { return a.row < b.row; });
-    right.insert(right.end(), below.begin(), below.end());
-    return right;
+    return below;
+}
+
+// A label with a text; blank labels only keep the distance.
+LabelPeer* AsText(Peer* iPeer) {
+    auto* const label = dynamic_cast<LabelPeer*>(iPeer);
+    return label == nullptr || label->Caption().trimmed().isEmpty() ? nullptr : label;
 }
 
 bool IsPage(const CATDialog& iWidget) {
@@ -65,7 +72,6 @@ KeyboardAccess::KeyboardAccess(const PeerTree& iTree, WindowPeer& ioWindow)
 
 void KeyboardAccess::Provide() {
     Collect(*_window.Dialog());
-    OrderTabs();
     ShowCaptions();
     NameFields();
 }
@@ -81,31 +87,46 @@ void KeyboardAccess::Collect(const CATDialog& iContainer) {
     PairLabels(iContainer);
 }
 
-// A label stands for the first thing after it, if that is a field without a caption of its own; blank labels
-// and empty boxes between them only keep the distance.
+// A label stands for what is beside it, and where that is nothing or another label for what is below it, if
+// that is a field without a caption of its own. What is beside a field comes first.
 void KeyboardAccess::PairLabels(const CATDialog& iContainer) {
     const host::LayoutPlan plan = host::PlanLayout(iContainer);
+    std::vector<const host::Cell*> headings;
     for (const host::Cell& cell : plan.cells) {
-        auto* const label = dynamic_cast<LabelPeer*>(_tree.PeerOf(*cell.child));
-        if (label == nullptr)
+        Peer* const peer = _tree.PeerOf(*cell.child);
+        if (auto* const label = dynamic_cast<LabelPeer*>(peer))
+            label->SetField(nullptr);
+        LabelPeer* const text = AsText(peer);
+        if (text == nullptr)
             continue;
-        label->SetField(nullptr);
-        if (label->Caption().trimmed().isEmpty())
-            continue;
-        for (const host::Cell& next : CellsAfter(plan, cell)) {
-            const auto* const other = dynamic_cast<LabelPeer*>(_tree.PeerOf(*next.child));
-            if (other != nullptr && !other->Caption().trimmed().isEmpty())
-                break;
-            Peer* const field = FirstFieldIn(*next.child);
-            if (field == nullptr)
-                continue;
-            if (field->Caption().isEmpty() && !_labels.contains(field->Field())) {
-                label->SetField(field->Field());
-                _labels.insert(field->Field(), label);
-            }
-            break;
-        }
+        Peer* const beside = FirstThingIn(CellsRightOf(plan, cell));
+        if (beside == nullptr || AsText(beside) != nullptr)
+            headings.push_back(&cell);
+        else
+            Pair(*text, *beside);
     }
+    for (const host::Cell* heading : headings)
+        if (Peer* const below = FirstThingIn(CellsBelow(plan, *heading)))
+            Pair(*AsText(_tree.PeerOf(*heading->child)), *below);
+}
+
+// Empty boxes between them only keep the distance, like blank labels. Null for nothing else.
+Peer* KeyboardAccess::FirstThingIn(const std::vector<host::Cell>& iCells) const {
+    for (const host::Cell& cell : iCells) {
+        if (Peer* const text = AsText(_tree.PeerOf(*cell.child)))
+            return text;
+        if (Peer* const field = FirstFieldIn(*cell.child))
+            return field;
+    }
+    return nullptr;
+}
+
+void KeyboardAccess::Pair(LabelPeer& ioLabel, const Peer& iField) {
+    QWidget* const field = iField.Field();
+    if (field == nullptr || !iField.Caption().isEmpty() || _labels.contains(field))
+        return;
+    ioLabel.SetField(field);
+    _labels.insert(field, &ioLabel);
 }
 
 Peer* KeyboardAccess::FirstFieldIn(CATDialog& ioWidget) const {
@@ -119,17 +140,6 @@ Peer* KeyboardAccess::FirstFieldIn(CATDialog& ioWidget) const {
             if (Peer* const field = FirstFieldIn(*child))
                 return field;
     return nullptr;
-}
-
-void KeyboardAccess::OrderTabs() const {
-    std::vector<QWidget*> fields;
-    for (const Peer* peer : _peers)
-        if (peer->Field() != nullptr)
-            fields.push_back(peer->Field());
-    for (QPushButton* button : _window.Buttons().All())
-        fields.push_back(button);
-    for (std::size_t next = 1; next < fields.size(); ++next)
-        QWidget::setTabOrder(fields[next - 1], fields[next]);
 }
 
 void KeyboardAccess::ShowCaptions() {

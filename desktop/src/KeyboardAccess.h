@@ -2,6 +2,7 @@
 #define desktop_KeyboardAccess_H
 
 #include "Mnemonics.h"
+#include "host/LayoutPlan.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QString>
@@ -18,9 +19,8 @@ class Peer;
 class PeerTree;
 class WindowPeer;
 
-// Makes everything in a window reachable without mouse and named for who does not see it: Tab goes through
-// the fields in the order of creation, a label stands for the field beside it, captions get mnemonics, and
-// every field has an accessible name.
+// Makes everything in a window reachable without mouse and named for who does not see it: a label stands for
+// the field beside or below it, captions get mnemonics, and every field has an accessible name.
 class KeyboardAccess {
   public:
     KeyboardAccess(const PeerTree& iTree, WindowPeer& ioWindow);
@@ -29,8 +29,9 @@ class KeyboardAccess {
   private:
     void Collect(const CATDialog& iContainer);
     void PairLabels(const CATDialog& iContainer);
+    Peer* FirstThingIn(const std::vector<host::Cell>& iCells) const;
     Peer* FirstFieldIn(CATDialog& ioWidget) const;
-    void OrderTabs() const;
+    void Pair(LabelPeer& ioLabel, const Peer& iField);
     void ShowCaptions();
     void ShowCaptionsOn(const CATDialog* iPage, Mnemonics iMnemonics);
     void NameFields() const;

@@ -1,5 +1,7 @@
 #include "LineView.h"
 
+#include "EnterKey.h"
+
 #include <QtGui/QKeyEvent>
 #include <QtGui/QResizeEvent>
 #include <QtWidgets/QScrollBar>
@@ -60,7 +62,7 @@ void LineView::mouseReleaseEvent(QMouseEvent* iEvent) {
 }
 
 void LineView::keyPressEvent(QKeyEvent* iEvent) {
-    if (iEvent->key() == Qt::Key_Return || iEvent->key() == Qt::Key_Enter) {
+    if (IsEnter(*iEvent)) {
         iEvent->accept();
         if (currentIndex().isValid())
             _onChosen(currentIndex().row());

@@ -1,6 +1,6 @@
 #include "NumberField.h"
 
-#include "ReadOnlyLook.h"
+#include "EnterKey.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QWheelEvent>
@@ -12,11 +12,22 @@
 namespace desktop {
 
 namespace {
+
 constexpr int fewestCharacters = 6; // that stay in sight in a narrow window
+
+constexpr float greyedShare = 0.6F; // of the text's own colour
+
+QColor Mixed(const QColor& iText, const QColor& iBehind) {
+    const auto mix = [](float iOne, float iOther) { return greyedShare * iOne + (1 - greyedShare) * iOther; };
+    return QColor::fromRgbF(mix(iText.redF(), iBehind.redF()), mix(iText.greenF(), iBehind.greenF()),
+                            mix(iText.blueF(), iBehind.blueF()));
 }
+
+} // namespace
 
 NumberField::NumberField(QWidget* iParent, Actions iActions)
     : QAbstractSpinBox(iParent), _actions(std::move(iActions)) {
+    ShowLook();
     setFocusPolicy(Qt::StrongFocus); // the wheel is for what it scrolls until the field is in use
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] { _actions.type(); });
 }
@@ -35,7 +46,7 @@ void NumberField::ShowText(const QString& iText) {
 void NumberField::Allow(bool iTyping, bool iArrows) {
     lineEdit()->setReadOnly(!iTyping);
     setButtonSymbols(iArrows ? UpDownArrows : NoButtons);
-    ShowWhetherReadOnly();
+    ShowLook();
 }
 
 void NumberField::SetSteps(StepEnabled iSteps) {
@@ -81,22 +92,22 @@ QAbstractSpinBox::StepEnabled NumberField::stepEnabled() const {
 bool NumberField::event(QEvent* iEvent) {
     const bool isHandled = QAbstractSpinBox::event(iEvent);
     if (iEvent->type() == QEvent::PaletteChange)
-        ShowWhetherReadOnly();
+        ShowLook();
     return isHandled;
 }
 
-// Enter is for the field alone, so that a number never ends the dialog.
+// Enter and Escape are for a text that is being typed, and without one for the window.
 void NumberField::keyPressEvent(QKeyEvent* iEvent) {
-    const bool isEnter = iEvent->key() == Qt::Key_Return || iEvent->key() == Qt::Key_Enter;
-    if (isEnter && !lineEdit()->isReadOnly()) {
-        _actions.commit();
-        selectAll();
+    if (IsEnter(*iEvent)) {
+        if (_actions.commit())
+            selectAll();
+        else
+            iEvent->ignore();
         return;
     }
-    if (iEvent->matches(QKeySequence::Cancel) && _actions.restore())
-        return;
-    if (isEnter || iEvent->matches(QKeySequence::Cancel)) {
-        iEvent->ignore();
+    if (iEvent->matches(QKeySequence::Cancel)) {
+        if (!_actions.restore())
+            iEvent->ignore();
         return;
     }
     QAbstractSpinBox::keyPressEvent(iEvent);
@@ -107,6 +118,13 @@ void NumberField::wheelEvent(QWheelEvent* iEvent) {
         QAbstractSpinBox::wheelEvent(iEvent);
     else
         iEvent->ignore();
+}
+
+// A window that opens, or comes back with a field that was only looked at, lets the number be typed over.
+void NumberField::focusInEvent(QFocusEvent* iEvent) {
+    QAbstractSpinBox::focusInEvent(iEvent);
+    if (iEvent->reason() == Qt::ActiveWindowFocusReason && lineEdit()->cursorPosition() == 0)
+        selectAll();
 }
 
 // The menu of the field itself does not leave it.
@@ -120,12 +138,17 @@ bool NumberField::IsReadOnly() const {
     return lineEdit()->isReadOnly() && buttonSymbols() == NoButtons;
 }
 
-void NumberField::ShowWhetherReadOnly() {
+// Read-only it looks like the window behind it. Greyed it can still be read, since a number that nobody may
+// change tells something all the same. The change of the palette made here finds nothing to do.
+void NumberField::ShowLook() {
+    const QPalette shown = palette();
+    QPalette look;
+    look.setColor(QPalette::Disabled, QPalette::Text,
+                  Mixed(shown.color(QPalette::Active, QPalette::Text),
+                        shown.color(QPalette::Active, QPalette::Window)));
     if (IsReadOnly())
-        LookReadOnly(*this);
-    else if (_hasReadOnlyLook)
-        setPalette(QPalette());
-    _hasReadOnlyLook = IsReadOnly();
+        look.setBrush(QPalette::Base, shown.brush(QPalette::Window));
+    setPalette(look);
 }
 
 QSize NumberField::SizeFor(int iCharacters) const {

@@ -14,7 +14,7 @@ class NumberField : public QAbstractSpinBox {
   public:
     struct Actions {
         std::function<void()> type;    // the text in the field is another one
-        std::function<void()> commit;  // Enter, or the field is left
+        std::function<bool()> commit;  // Enter, or the field is left; false when there is nothing to pass on
         std::function<bool()> restore; // Escape; false when there is nothing to restore
         std::function<void(int)> step; // down for a negative number
     };
@@ -43,18 +43,18 @@ class NumberField : public QAbstractSpinBox {
     bool event(QEvent* iEvent) override;
     void keyPressEvent(QKeyEvent* iEvent) override;
     void wheelEvent(QWheelEvent* iEvent) override;
+    void focusInEvent(QFocusEvent* iEvent) override;
     void focusOutEvent(QFocusEvent* iEvent) override;
 
   private:
     bool IsReadOnly() const;
-    void ShowWhetherReadOnly();
+    void ShowLook();
     QSize SizeFor(int iCharacters) const;
 
     Actions _actions;
     QRegularExpression _pattern;
     StepEnabled _steps = StepUpEnabled | StepDownEnabled;
     int _visibleCharacters = 10;
-    bool _hasReadOnlyLook = false;
 };
 
 } // namespace desktop

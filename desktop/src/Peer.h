@@ -62,6 +62,8 @@ class Peer : public QObject {
     // Passes a text that is still being typed on to the host, or drops it.
     virtual void CommitText() {}
     virtual void DropText() {}
+    // Whether the widget holds a text that is not taken, with the reason beside it.
+    virtual bool HoldsRefusedText() const { return false; }
 
   protected:
     // Shows what is particular to the kind of widget.

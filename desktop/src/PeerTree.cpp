@@ -84,6 +84,20 @@ void PeerTree::CommitAll(const Peer* iExcept) {
         window->ReportPlace();
 }
 
+Peer* PeerTree::FirstRefused(const CATDialog& iContainer) const {
+    for (const CATDialog* child : host::Inspector::Children(iContainer)) {
+        if (host::Inspector::IsWindow(*child))
+            continue;
+        Peer* const peer = PeerOf(*child);
+        const bool canBeMended = peer != nullptr && peer->HoldsRefusedText() && peer->Field()->isVisible() &&
+                                 peer->Field()->isEnabled();
+        Peer* const refused = canBeMended ? peer : FirstRefused(*child);
+        if (refused != nullptr)
+            return refused;
+    }
+    return nullptr;
+}
+
 void PeerTree::WarnOnce(const QString& iText) {
     if (_warnings.contains(iText))
         return;

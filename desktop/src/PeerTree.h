@@ -46,6 +46,9 @@ class PeerTree {
     void CommitText(const Peer* iExcept);
     // Passes on what the person has done and the host does not know yet, before something else is done.
     void CommitAll(const Peer* iExcept);
+    // The first field in a widget that a person can reach and that holds a text which is not taken; null for
+    // none.
+    Peer* FirstRefused(const CATDialog& iContainer) const;
     // Whether the windows are being brought up to date, so that what happens in them is no person's doing.
     bool IsApplying() const { return _isApplying; }
 

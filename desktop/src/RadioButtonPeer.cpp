@@ -1,16 +1,17 @@
 #include "RadioButtonPeer.h"
 
 #include "CATDlgRadioButton.h"
+#include "EnterKey.h"
 #include "PeerTree.h"
+#include "RadioButton.h"
 #include "host/DialogUser.h"
 #include "host/Inspector.h"
-
-#include <QtWidgets/QRadioButton>
 
 namespace desktop {
 
 RadioButtonPeer::RadioButtonPeer(PeerTree& ioTree, CATDlgRadioButton& ioButton, QWidget* iParent)
-    : ButtonPeer(ioTree, ioButton, new QRadioButton(iParent)), _button(ioButton) {
+    : ButtonPeer(ioTree, ioButton, new RadioButton(iParent)), _button(ioButton) {
+    LeaveEnterToWindow(Button());
     connect(&Button(), &QAbstractButton::clicked, this, [this] { Check(); });
 }
 

@@ -36,7 +36,7 @@ QString PatternFor(int iDigits) {
 SpinnerPeer::SpinnerPeer(PeerTree& ioTree, CATDlgSpinner& ioSpinner, QWidget* iParent)
     : TypingPeer(
           ioTree, ioSpinner,
-          new NumberField(iParent, {[this] { NoteTyped(); }, [this] { CommitText(); },
+          new NumberField(iParent, {[this] { NoteTyped(); }, [this] { return CommitTyping(); },
                                     [this] { return Restore(); }, [this](int iSteps) { Step(iSteps); }})),
       _spinner(ioSpinner), _field(static_cast<NumberField*>(Widget())) {
     _field->Allow((host::Inspector::Style(ioSpinner) & CATDlgSpnEntry) != 0, true);

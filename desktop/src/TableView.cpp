@@ -2,6 +2,7 @@
 
 #include "CellDelegate.h"
 #include "ColumnHeader.h"
+#include "EnterKey.h"
 #include "OwnTexts.h"
 
 #include <QtCore/QScopedValueRollback>
@@ -179,7 +180,7 @@ void TableView::mouseDoubleClickEvent(QMouseEvent* iEvent) {
 }
 
 void TableView::keyPressEvent(QKeyEvent* iEvent) {
-    if (iEvent->key() == Qt::Key_Return || iEvent->key() == Qt::Key_Enter) {
+    if (IsEnter(*iEvent)) {
         iEvent->accept();
         if (currentIndex().isValid())
             _wishes.activate(currentIndex().row(), currentIndex().column());

@@ -23,6 +23,12 @@ void TypingPeer::DropText() {
     ShowHostText();
 }
 
+bool TypingPeer::CommitTyping() {
+    const bool wasTyping = _isTyping;
+    CommitText();
+    return wasTyping;
+}
+
 void TypingPeer::NoteTyped() {
     _isTyping = true;
     Tree().NoteTyping(*this);

@@ -24,6 +24,8 @@ class TypingPeer : public Peer {
     // Passes a typed text on.
     virtual host::Outcome Enter(const std::string& iText) = 0;
 
+    // Passes a text on that is being typed; false when there is none.
+    bool CommitTyping();
     // The person has changed the text in the field.
     void NoteTyped();
     void EndTyping();

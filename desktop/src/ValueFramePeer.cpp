@@ -16,7 +16,7 @@ namespace desktop {
 
 ValueFramePeer::ValueFramePeer(PeerTree& ioTree, host::ValueFrame& ioFrame, QWidget* iParent)
     : TypingPeer(ioTree, ioFrame, new QWidget(iParent)), _frame(ioFrame), _label(new QLabel(Widget())),
-      _field(new NumberField(Widget(), {[this] { NoteTyped(); }, [this] { CommitText(); },
+      _field(new NumberField(Widget(), {[this] { NoteTyped(); }, [this] { return CommitTyping(); },
                                         [this] { return Restore(); }, [this](int iSteps) { Step(iSteps); }})),
       _problem(new ProblemLine(Widget())) {
     _label->setTextFormat(Qt::PlainText);
@@ -61,6 +61,10 @@ bool ValueFramePeer::TakeNeedsRoom() {
     return std::exchange(_needsRoom, false);
 }
 
+bool ValueFramePeer::HoldsRefusedText() const {
+    return Dialog() != nullptr && _frame.IsRefused();
+}
+
 QString ValueFramePeer::FieldText() const {
     return _field->Text();
 }
@@ -78,10 +82,10 @@ host::Outcome ValueFramePeer::Enter(const std::string& iText) {
 }
 
 bool ValueFramePeer::Restore() {
-    if (Dialog() == nullptr || (!IsTyping() && !_frame.IsRefused()))
+    if (!IsTyping() && !HoldsRefusedText())
         return false;
     DropText();
-    if (_frame.IsRefused())
+    if (HoldsRefusedText())
         Perform([this] { return host::DialogUser::Restore(_frame); });
     return true;
 }

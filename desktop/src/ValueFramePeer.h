@@ -27,6 +27,7 @@ class ValueFramePeer : public TypingPeer {
     QString Caption() const override;
     void ShowCaption(int iMnemonic) override;
     bool TakeNeedsRoom() override;
+    bool HoldsRefusedText() const override;
 
   protected:
     void ShowState(unsigned int iKinds) override;

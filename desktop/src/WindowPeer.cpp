@@ -2,6 +2,7 @@
 
 #include "CATDlgDialog.h"
 #include "DialogWindow.h"
+#include "FocusOrder.h"
 #include "GridArranger.h"
 #include "Icons.h"
 #include "PeerTree.h"
@@ -18,6 +19,7 @@
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWidgets/QAbstractScrollArea>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
 
@@ -132,6 +134,8 @@ void WindowPeer::ShowOrHide() {
     }
     _isDraggedThere = false;
     Place();
+    if (QWidget* const first = FocusOrder(Tree(), *this).First())
+        first->setFocus();
     _frame->show();
     if (_isPlacedByHost)
         MoveIntoSight(_frame->pos()); // the borders of the window are known now
@@ -151,10 +155,20 @@ QImage WindowPeer::Picture() {
     return _frame->grab().toImage();
 }
 
+// A text that is not taken has to be mended first, with the reason in sight.
 void WindowPeer::PressEnter() {
     CATDlgDialog* const dialog = AsDialog();
-    if (dialog != nullptr && host::Inspector::DefaultButton(*dialog) != 0)
-        Perform([dialog] { return host::DialogUser::PressEnter(*dialog); });
+    if (dialog == nullptr || host::Inspector::DefaultButton(*dialog) == 0)
+        return;
+    Tree().CommitText(nullptr);
+    if (Dialog() == nullptr)
+        return;
+    if (const Peer* const refused = Tree().FirstRefused(*dialog)) {
+        refused->Field()->setFocus(Qt::TabFocusReason);
+        QApplication::beep();
+        return;
+    }
+    Perform([dialog] { return host::DialogUser::PressEnter(*dialog); });
 }
 
 void WindowPeer::PressEscape() {
@@ -167,6 +181,15 @@ void WindowPeer::PressEscape() {
         Perform([dialog] { return host::DialogUser::PressEscape(*dialog); });
     else
         Close();
+}
+
+bool WindowPeer::MoveFocus(bool iBehind) {
+    QWidget* const field =
+        Dialog() == nullptr ? nullptr : FocusOrder(Tree(), *this).Beside(_frame->focusWidget(), iBehind);
+    if (field == nullptr)
+        return false;
+    field->setFocus(iBehind ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void WindowPeer::Close() {

@@ -40,6 +40,8 @@ class WindowPeer : public Peer {
     void PressEnter();
     void PressEscape();
     void Close();
+    // Tab, or Shift and Tab. False when there is nowhere to go.
+    bool MoveFocus(bool iBehind);
     // iByWindowSystem: not by a call of this program.
     void NoteNewPlace(bool iByWindowSystem);
     // Passes on where the person has dragged the window and how large; called by itself at the end of a drag.

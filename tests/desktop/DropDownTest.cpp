@@ -149,6 +149,42 @@ TEST_F(DropDownTest, ShowsLinesThatTheProgramFillsInAsTheListOpens) {
     Box().hidePopup();
 }
 
+TEST_F(DropDownTest, MayBeFilledAnewWhileItsListIsOpen) {
+    Combo().SetSelect(0);
+    Open();
+    QTest::mouseClick(&Box(), Qt::LeftButton);
+    Combo().ClearLine();
+    for (const char* line : {"Slots", "Keyways"})
+        Combo().SetLine(line);
+    Combo().SetSelect(0);
+    Settle();
+    ASSERT_TRUE(Box().view()->isVisible());
+    EXPECT_EQ(Box().view()->model()->rowCount(), 2);
+    QTest::keyClick(Box().view(), Qt::Key_Down);
+    QTest::keyClick(Box().view(), Qt::Key_Return);
+    EXPECT_EQ(Combo().GetSelect(), 1);
+    EXPECT_EQ(Utf8(Box().currentText()), "Keyways");
+}
+
+TEST_F(DropDownTest, MayBeFilledAnewWithOthersWhenALineIsChosen) {
+    auto* const types = new CATDlgCombo(&Dialog(), "TypeCmb", CATDlgCmbDropDown);
+    Open();
+    const Reaction select("CATDlgComboSelectNotification", [&] {
+        Combo().ClearLine();
+        for (const char* line : {"Grooves", "Holes"})
+            Combo().SetLine(line);
+        Combo().SetSelect(0);
+        types->ClearLine();
+        types->SetLine("Ring groove");
+        types->SetSelect(0);
+    });
+    ClickOnLine(2);
+    EXPECT_EQ(select.Count(), 1);
+    EXPECT_EQ(Box().count(), 2);
+    EXPECT_EQ(Utf8(Box().currentText()), "Grooves");
+    EXPECT_EQ(Utf8(ShownAs<QComboBox>(*types).currentText()), "Ring groove");
+}
+
 TEST_F(DropDownTest, StaysClosedWhenTheProgramHidesItAsItOpens) {
     Open();
     const Reaction hide("CATDlgComboDropNotification", [this] { Combo().SetVisibility(CATDlgHide); });

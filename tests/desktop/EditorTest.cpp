@@ -157,6 +157,7 @@ TEST_F(EditorTest, ShowsTheLinesOfTheProgramInAReadOnlyText) {
     EXPECT_EQ(Utf8(field.toPlainText()), "Depth is too small.\nChamfer is missing.");
     EXPECT_TRUE(field.isReadOnly());
     EXPECT_GE(field.height(), 5 * field.fontMetrics().height());
+    field.setFocus();
     QTest::keyClick(&field, Qt::Key_Tab);
     EXPECT_FALSE(field.hasFocus()) << "Tab leaves the text";
 }

@@ -209,7 +209,9 @@ TEST_F(SetDialogTest, AClickOnARowChoosesTheSet) {
 TEST_F(SetDialogTest, ADoubleClickOnACellOfTheLowerTableAsksForItsEditor) {
     DoubleClick(Table("CurrentParameterMul"), 0, 3);
     const Texts classes = TakeClasses();
-    EXPECT_EQ(classes.back(), "OrvKvParameterListDoubleClickedNotification");
+    EXPECT_NE(std::find(classes.begin(), classes.end(), "OrvKvParameterListDoubleClickedNotification"),
+              classes.end());
+    EXPECT_TRUE(Shown<QWidget>("OrvKvParameterEditPanel").isVisible());
 }
 
 // The tables are made anew for the columns of another type, in the middle of the click that asks for it.
@@ -226,6 +228,22 @@ TEST_F(FeatureDialogTest, TheSelectorExplainsItselfInABalloon) {
     EXPECT_EQ(Types().toolTip().toStdString(), "Feature type");
     EXPECT_EQ(Sets().toolTip().toStdString(), "Parameter set");
     EXPECT_FALSE(Types().whatsThis().isEmpty());
+}
+
+// Object names of the widgets that Tab visits; the standard buttons have their texts.
+TEST_F(FeatureDialogTest, TabGoesThroughTheDialogAsItIsSeen) {
+    QWidget& start = Shown<QWidget>("GroupCmb");
+    start.setFocus();
+    Texts visited;
+    do {
+        const QWidget* const widget = QApplication::focusWidget();
+        const QString name = widget->objectName();
+        visited.push_back((name.isEmpty() ? widget->accessibleName() : name).toStdString());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    } while (QApplication::focusWidget() != &start && visited.size() < 40);
+    EXPECT_EQ(visited, Texts({"GroupCmb", "Input1Pbt", "Input1Edt", "Input2Pbt", "Input2Edt", "InvertPbt",
+                              "TypeSelectCombo", "ParameterSetCmb", "ParameterMul", "TabContainer",
+                              "MoreLessButton", "KelvaneRules", "OK", "Apply", "Cancel", "Help"}));
 }
 
 TEST_F(FeatureDialogTest, OkAcceptsTheChoiceAndTheWindowGoes) {

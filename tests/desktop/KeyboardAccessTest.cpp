@@ -40,6 +40,18 @@ class KeyboardAccessTest : public DesktopTest {
         _check->SetTitle("Drill");
     }
 
+    static void PressTab() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); }
+    static void PressBacktab() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab); }
+    // Where Tab leads from a widget on, round until it comes back there.
+    static std::vector<QWidget*> TabFrom(QWidget& ioStart) {
+        ioStart.setFocus();
+        std::vector<QWidget*> visited;
+        do {
+            visited.push_back(QApplication::focusWidget());
+            PressTab();
+        } while (QApplication::focusWidget() != &ioStart && visited.size() < 20);
+        return visited;
+    }
     std::string AccessibleName(const CATDialog& iWidget) { return Utf8(Shown(iWidget).accessibleName()); }
 
     CATDlgFrame* _frame;
@@ -50,28 +62,24 @@ class KeyboardAccessTest : public DesktopTest {
     CATDlgCheckButton* _check;
 };
 
-TEST_F(KeyboardAccessTest, TabGoesThroughTheFieldsInTheOrderOfCreation) {
+TEST_F(KeyboardAccessTest, TabGoesThroughTheRowsFromTheTopAndThenThroughTheButtons) {
     Open();
-    Shown(*_diameter).setFocus();
-    std::vector<QWidget*> visited;
-    for (int step = 0; step < 5; ++step) {
-        visited.push_back(QApplication::focusWidget());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(visited, std::vector<QWidget*>({&Shown(*_diameter), &Shown(*_depth), &Shown(*_check),
-                                              &StandardButton("OK"), &StandardButton("Cancel")}));
-    EXPECT_EQ(QApplication::focusWidget(), &Shown(*_diameter)) << "and begins again";
+    EXPECT_EQ(TabFrom(Shown(*_diameter)),
+              std::vector<QWidget*>({&Shown(*_diameter), &Shown(*_depth), &Shown(*_check),
+                                     &StandardButton("OK"), &StandardButton("Cancel")}));
 }
 
-TEST_F(KeyboardAccessTest, AFieldThatIsMadeLaterIsVisitedAmongItsSiblings) {
+TEST_F(KeyboardAccessTest, AFieldThatIsMadeLaterIsVisitedWhereItStands) {
     Open();
     auto* const pitch = new CATDlgEditor(_frame, "PitchEdt");
+    _frame->SetHorizontalAttachment(0, CATDlgTopOrLeft, pitch, nullptr);
+    _frame->SetVerticalAttachment(3, CATDlgTopOrLeft, pitch, nullptr);
     Settle();
-    Shown(*_depth).setFocus();
-    QTest::keyClick(&Shown(*_depth), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), &Shown(*pitch));
-    QTest::keyClick(&Shown(*pitch), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), &Shown(*_check));
+    Shown(*_diameter).setFocus();
+    PressTab();
+    EXPECT_EQ(QApplication::focusWidget(), &Shown(*pitch)) << "it stands beside the diameter";
+    PressTab();
+    EXPECT_EQ(QApplication::focusWidget(), &Shown(*_depth));
 }
 
 TEST_F(KeyboardAccessTest, ALabelStandsForTheFieldBesideIt) {
@@ -139,8 +147,170 @@ TEST_F(KeyboardAccessTest, ADisabledFieldIsSkipped) {
     _depth->SetSensitivity(CATDlgDisable);
     Open();
     Shown(*_diameter).setFocus();
-    QTest::keyClick(&Shown(*_diameter), Qt::Key_Tab);
+    PressTab();
     EXPECT_EQ(QApplication::focusWidget(), &Shown(*_check));
+}
+
+TEST_F(KeyboardAccessTest, ALabelStandsForTheFieldBelowItWhereAnotherLabelIsBesideIt) {
+    auto* const table = new CATDlgFrame(&Dialog(), "LimitsFrm", CATDlgFraNoFrame);
+    auto* const upperLabel = new CATDlgLabel(table, "UpperLab");
+    upperLabel->SetTitle("Upper limit");
+    auto* const lowerLabel = new CATDlgLabel(table, "LowerLab");
+    lowerLabel->SetTitle("Lower limit");
+    auto* const upper = new CATDlgEditor(table, "UpperEdt");
+    auto* const lower = new CATDlgEditor(table, "LowerEdt");
+    table->SetHorizontalAttachment(0, CATDlgTopOrLeft, upperLabel, lowerLabel, nullptr);
+    table->SetHorizontalAttachment(1, CATDlgTopOrLeft, upper, lower, nullptr);
+    table->SetVerticalAttachment(0, CATDlgTopOrLeft, upperLabel, upper, nullptr);
+    table->SetVerticalAttachment(1, CATDlgTopOrLeft, lowerLabel, lower, nullptr);
+    Open();
+    EXPECT_EQ(ShownAs<QLabel>(*upperLabel).buddy(), &Shown(*upper));
+    EXPECT_EQ(AccessibleName(*upper), "Upper limit");
+    EXPECT_EQ(AccessibleName(*lower), "Lower limit");
+}
+
+// The heading stands above the field, but the field has a label of its own.
+TEST_F(KeyboardAccessTest, AFieldIsNamedAfterTheLabelBesideItBeforeTheOneAboveIt) {
+    auto* const table = new CATDlgFrame(&Dialog(), "TableFrm", CATDlgFraNoFrame);
+    auto* const heading = new CATDlgLabel(table, "HeadingLab");
+    heading->SetTitle("Values");
+    auto* const label = new CATDlgLabel(table, "PitchLab");
+    label->SetTitle("Pitch");
+    auto* const pitch = new CATDlgEditor(table, "PitchEdt");
+    table->SetHorizontalAttachment(0, CATDlgTopOrLeft, heading, nullptr);
+    table->SetHorizontalAttachment(1, CATDlgTopOrLeft, label, pitch, nullptr);
+    table->SetVerticalAttachment(0, CATDlgTopOrLeft, label, nullptr);
+    table->SetVerticalAttachment(1, CATDlgTopOrLeft, heading, pitch, nullptr);
+    Open();
+    EXPECT_EQ(AccessibleName(*pitch), "Pitch");
+    EXPECT_EQ(ShownAs<QLabel>(*heading).buddy(), nullptr);
+}
+
+// Two columns that are made in another order than they stand: a check button that shows and hides a row, and
+// a group of radio buttons.
+class TabOrderTest : public KeyboardAccessTest {
+  protected:
+    TabOrderTest() {
+        _table = new CATDlgFrame(&Dialog(), "TableFrm");
+        _right = new CATDlgRadioButton(_table, "RightRdb");
+        _left = new CATDlgRadioButton(_table, "LeftRdb");
+        _low = new CATDlgEditor(_table, "LowEdt");
+        _far = new CATDlgCombo(_table, "FarCmb", CATDlgCmbDropDown);
+        _near = new CATDlgEditor(_table, "NearEdt");
+        _table->SetHorizontalAttachment(0, CATDlgTopOrLeft, _left, _right, nullptr);
+        _table->SetHorizontalAttachment(1, CATDlgTopOrLeft, _near, _far, nullptr);
+        _table->SetHorizontalAttachment(2, CATDlgTopOrLeft, _low, nullptr);
+        _table->SetVerticalAttachment(0, CATDlgTopOrLeft, _left, _near, _low, nullptr);
+        _table->SetVerticalAttachment(1, CATDlgTopOrLeft, _right, _far, nullptr);
+    }
+
+    // From the check button that stands above the table round to the standard buttons.
+    std::vector<std::string> Visited() {
+        std::vector<std::string> names;
+        for (const QWidget* widget : TabFrom(Shown(*_check)))
+            names.push_back(Utf8(widget->objectName()));
+        return names;
+    }
+
+    CATDlgFrame* _table;
+    CATDlgRadioButton* _right;
+    CATDlgRadioButton* _left;
+    CATDlgEditor* _low;
+    CATDlgCombo* _far;
+    CATDlgEditor* _near;
+};
+
+const std::string standardButton; // which has no name
+
+TEST_F(TabOrderTest, GoesByTheRowsAndNotByTheOrderOfCreation) {
+    _right->SetState(CATDlgCheck);
+    Open();
+    EXPECT_EQ(Visited(),
+              std::vector<std::string>({"DrillCkb", "RightRdb", "NearEdt", "FarCmb", "LowEdt", standardButton,
+                                        standardButton, "DiameterCmb", "DepthEdt"}));
+    Shown(*_low).setFocus();
+    PressBacktab();
+    EXPECT_EQ(QApplication::focusWidget(), &Shown(*_far));
+    PressBacktab();
+    EXPECT_EQ(QApplication::focusWidget(), &Shown(*_near)) << "and back the same way";
+}
+
+TEST_F(TabOrderTest, FollowsTheLayoutThatChangesWhileTheWindowIsOpen) {
+    _left->SetState(CATDlgCheck);
+    _far->SetVisibility(CATDlgHide);
+    Open();
+    EXPECT_EQ(Visited(), std::vector<std::string>({"DrillCkb", "LeftRdb", "NearEdt", "LowEdt", standardButton,
+                                                   standardButton, "DiameterCmb", "DepthEdt"}));
+    _far->SetVisibility(CATDlgShow);
+    _table->ResetAttachment(_low, nullptr);
+    _table->ResetAttachment(_near, nullptr);
+    _table->SetHorizontalAttachment(1, CATDlgTopOrLeft, _low, nullptr);
+    _table->SetHorizontalAttachment(2, CATDlgTopOrLeft, _near, nullptr);
+    _table->SetVerticalAttachment(0, CATDlgTopOrLeft, _low, _near, nullptr);
+    Settle();
+    EXPECT_EQ(Visited(),
+              std::vector<std::string>({"DrillCkb", "LeftRdb", "LowEdt", "FarCmb", "NearEdt", standardButton,
+                                        standardButton, "DiameterCmb", "DepthEdt"}));
+    _low->SetSensitivity(CATDlgDisable);
+    Settle();
+    EXPECT_EQ(Visited(), std::vector<std::string>({"DrillCkb", "LeftRdb", "FarCmb", "NearEdt", standardButton,
+                                                   standardButton, "DiameterCmb", "DepthEdt"}));
+}
+
+class RadioGroupTest : public TabOrderTest {
+  protected:
+    std::vector<std::string> VisitedRadioButtons() {
+        std::vector<std::string> radios;
+        for (const std::string& name : Visited())
+            if (name == "LeftRdb" || name == "RightRdb")
+                radios.push_back(name);
+        return radios;
+    }
+};
+
+TEST_F(RadioGroupTest, TabGoesToTheCheckedButtonOfAGroupAlone) {
+    _right->SetState(CATDlgCheck);
+    Open();
+    EXPECT_EQ(VisitedRadioButtons(), Classes({"RightRdb"}));
+    _left->SetState(CATDlgCheck);
+    Settle();
+    EXPECT_EQ(VisitedRadioButtons(), Classes({"LeftRdb"})) << "also when the program has checked another";
+    QTest::mousePress(&Shown(*_right), Qt::LeftButton);
+    QTest::mouseRelease(&Shown(*_right), Qt::LeftButton, Qt::NoModifier, QPoint(-50, -50));
+    EXPECT_EQ(VisitedRadioButtons(), Classes({"LeftRdb"})) << "and when another only had the focus";
+}
+
+TEST_F(RadioGroupTest, TabGoesToEachButtonOfAGroupWithoutACheckedOne) {
+    Open();
+    EXPECT_EQ(VisitedRadioButtons(), Classes({"LeftRdb", "RightRdb"}));
+}
+
+TEST_F(RadioGroupTest, AGroupIsReachedWhereItsCheckedButtonCannotBeUsed) {
+    _left->SetState(CATDlgCheck);
+    Open();
+    _left->SetSensitivity(CATDlgDisable);
+    Settle();
+    EXPECT_EQ(VisitedRadioButtons(), Classes({"RightRdb"}));
+    _left->SetSensitivity(CATDlgEnable);
+    Settle();
+    EXPECT_EQ(VisitedRadioButtons(), Classes({"LeftRdb"}));
+    _left->SetVisibility(CATDlgHide);
+    Settle();
+    EXPECT_EQ(VisitedRadioButtons(), Classes({"RightRdb"}));
+}
+
+TEST_F(RadioGroupTest, ArrowKeysCheckTheNextButtonOfTheGroup) {
+    _left->SetState(CATDlgCheck);
+    Open();
+    Shown(*_left).setFocus();
+    QTest::keyClick(&Shown(*_left), Qt::Key_Right);
+    EXPECT_EQ(_right->GetState(), CATDlgCheck);
+    EXPECT_EQ(_left->GetState(), CATDlgUncheck);
+    EXPECT_TRUE(Shown(*_right).hasFocus());
+    QTest::keyClick(&Shown(*_right), Qt::Key_Left);
+    EXPECT_EQ(_left->GetState(), CATDlgCheck);
+    const Classes unchecksAndChecks(2 * 2, "CATDlgRadBModifyNotification");
+    EXPECT_EQ(Command().TakeClasses(), unchecksAndChecks);
 }
 
 } // namespace

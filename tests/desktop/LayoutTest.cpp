@@ -69,6 +69,24 @@ TEST_F(LayoutTest, WhereNothingStretchesTheContentStaysTogetherInALargerWindow) 
     EXPECT_EQ(PlaceOf(second), secondPlace);
 }
 
+TEST_F(LayoutTest, ABoxAcrossAllColumnsIsAsWideAsTheWindow) {
+    CATDlgEditor& left = Editor(Dialog(), "Left");
+    CATDlgEditor& right = Editor(Dialog(), "Right");
+    auto* const box = new CATDlgFrame(&Dialog(), "ToleranceFrm");
+    Editor(*box, "Inside");
+    Dialog().SetHorizontalAttachment(0, CATDlgTopOrLeft, &left, &right, nullptr);
+    Dialog().SetHorizontalAttachment(1, CATDlgTopOrLeft, box, nullptr);
+    Dialog().SetVerticalAttachment(0, CATDlgTopOrLeft, &left, nullptr);
+    Dialog().SetVerticalAttachment(1, CATDlgTopOrLeft, &right, nullptr);
+    Open();
+    const int width = PlaceOf(right).width();
+    Dialog().SetRectDimensions(0, 0, Window().height(), Window().width() + 200);
+    Settle();
+    EXPECT_GE(PlaceOf(*box).right(), Window().width() - PlaceOf(left).left() - 1);
+    EXPECT_EQ(PlaceOf(*box).left(), PlaceOf(left).left());
+    EXPECT_EQ(PlaceOf(right).width(), width) << "what is in one column is as wide as before";
+}
+
 TEST_F(LayoutTest, TheColumnsOfATabulationLineUp) {
     auto* const shortLabel = new CATDlgLabel(&Dialog(), "A");
     auto* const longLabel = new CATDlgLabel(&Dialog(), "B");
@@ -84,6 +102,48 @@ TEST_F(LayoutTest, TheColumnsOfATabulationLineUp) {
     EXPECT_GT(PlaceOf(upper).left(), PlaceOf(*longLabel).right());
     EXPECT_EQ(PlaceOf(*shortLabel).center().y(), PlaceOf(upper).center().y())
         << "the text of a label stands at the height of its field";
+}
+
+TEST_F(LayoutTest, AWideChildThatIsAttachedToARowOnlyMovesNothingInTheOtherRows) {
+    auto* const label = new CATDlgLabel(&Dialog(), "A");
+    CATDlgEditor& beside = Editor(Dialog(), "Beside");
+    CATDlgEditor& below = Editor(Dialog(), "Below");
+    auto* const wide = new CATDlgLabel(&Dialog(), "Wide");
+    wide->SetTitle(std::string(300, 'm').c_str());
+    wide->SetVisibility(CATDlgHide);
+    Dialog().SetHorizontalAttachment(0, CATDlgTopOrLeft, label, &beside, nullptr);
+    Dialog().SetHorizontalAttachment(1, CATDlgTopOrLeft, &below, nullptr);
+    Dialog().SetHorizontalAttachment(2, CATDlgTopOrLeft, wide, nullptr);
+    Dialog().SetVerticalAttachment(0, CATDlgTopOrLeft, label, nullptr);
+    Dialog().SetVerticalAttachment(1, CATDlgTopOrLeft, &beside, &below, nullptr);
+    Open();
+    const QRect places[] = {PlaceOf(*label), PlaceOf(beside), PlaceOf(below)};
+    const int windowWidth = Window().width();
+    wide->SetVisibility(CATDlgShow);
+    Settle();
+    EXPECT_GT(Window().width(), windowWidth + 1000) << "the window makes room for it";
+    EXPECT_EQ(PlaceOf(*wide).left(), places[0].left());
+    EXPECT_GT(PlaceOf(*wide).top(), places[2].bottom());
+    EXPECT_EQ(PlaceOf(*label), places[0]);
+    EXPECT_EQ(PlaceOf(beside), places[1]);
+    EXPECT_EQ(PlaceOf(below), places[2]);
+}
+
+TEST_F(LayoutTest, AChildThatIsAttachedToAColumnOnlyStandsBetweenItsNeighboursOfThatColumn) {
+    CATDlgEditor& first = Editor(Dialog(), "First");
+    CATDlgEditor& between = Editor(Dialog(), "Between");
+    auto* const gap = new CATDlgContainer(&Dialog(), "GapCon");
+    gap->SetRectDimensions(1, 1, 10, 10);
+    CATDlgEditor& last = Editor(Dialog(), "Last");
+    Dialog().SetVerticalAttachment(0, CATDlgTopOrLeft, &first, &between, &last, nullptr);
+    Dialog().SetHorizontalAttachment(0, CATDlgTopOrLeft, &first, nullptr);
+    Dialog().SetHorizontalAttachment(1, CATDlgTopOrLeft, gap, nullptr);
+    Dialog().SetHorizontalAttachment(2, CATDlgTopOrLeft, &last, nullptr);
+    Open();
+    EXPECT_GT(PlaceOf(between).top(), PlaceOf(first).bottom());
+    EXPECT_GT(PlaceOf(last).top(), PlaceOf(between).bottom());
+    EXPECT_EQ(PlaceOf(between).left(), PlaceOf(first).left());
+    EXPECT_GT(PlaceOf(*gap).left(), PlaceOf(between).right());
 }
 
 TEST_F(LayoutTest, AFrameWithoutBorderLinesItsContentUpWithWhatIsAround) {

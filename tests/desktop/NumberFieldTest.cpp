@@ -45,6 +45,8 @@ class NumberFieldTest : public DesktopTest {
     void OpenWith(int iOptions = CATCkeNoLabel | CATCkeWithSpinner) {
         _frame = CATICkeParamFrame_var(_depth)->BuildFrame(NULL_var, &Dialog(), iOptions, "DepthFrm");
         Open();
+        Field().setFocus(); // the other field stands first
+        Command().Forget();
     }
     double Depth() const { return CATIParmAsStored_var(_depth)->GetValue(); }
     void SetDepth(double iMetres) {
@@ -106,7 +108,7 @@ TEST_F(NumberFieldTest, ShowsTheValueWithItsUnit) {
     EXPECT_EQ(Reason(), "");
 }
 
-TEST_F(NumberFieldTest, EnterPassesTheNumberOnAndNeverPressesTheDefaultButton) {
+TEST_F(NumberFieldTest, EnterPassesTheNumberOnAndOnlyThenPressesTheDefaultButton) {
     OpenWith();
     TypeIn("20");
     EXPECT_EQ(Depth(), 12.5) << "not while it is being typed";
@@ -114,10 +116,59 @@ TEST_F(NumberFieldTest, EnterPassesTheNumberOnAndNeverPressesTheDefaultButton) {
     EXPECT_EQ(Depth(), 20);
     EXPECT_EQ(Text(), "20mm");
     EXPECT_TRUE(Field().hasFocus());
-    Press(Qt::Key_Enter);
     EXPECT_EQ(Command().TakeClasses(), Classes());
+    Press(Qt::Key_Enter);
+    EXPECT_EQ(Command().TakeClasses(), Classes({"CATDlgDiaOKNotification"}));
+}
+
+TEST_F(NumberFieldTest, EnterThatIsHeldDownPassesTheNumberOnAlone) {
+    OpenWith();
+    TypeIn("20");
+    Press(Qt::Key_Return);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(&Field(), &held);
+    EXPECT_EQ(Depth(), 20);
+    EXPECT_EQ(Command().TakeClasses(), Classes());
+}
+
+TEST_F(NumberFieldTest, EnterPressesNothingWhereTheDialogHasNoDefaultButton) {
+    Dialog().SetDefaultButton(0);
+    OpenWith();
+    TypeIn("20");
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Depth(), 20);
+    EXPECT_EQ(Command().TakeClasses(), Classes());
+}
+
+TEST_F(NumberFieldTest, EnterPressesNothingWhileATextIsNotTaken) {
+    OpenWith();
+    TypeIn("deep");
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Text(), "deep");
+    EXPECT_NE(Reason(), "");
+    EXPECT_EQ(Command().TakeClasses(), Classes());
+    Leave();
     QTest::keyClick(&Shown(*_other), Qt::Key_Return);
-    EXPECT_EQ(Command().TakeClasses(), Classes({"CATDlgDiaOKNotification"})) << "other fields leave it Enter";
+    EXPECT_TRUE(Field().hasFocus()) << "it leads to what has to be mended";
+    Command().Forget();
+    QTest::keyClicks(&Field(), QStringLiteral("8"));
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Depth(), 8) << "which is selected and replaced by what is typed";
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Command().TakeClasses(), Classes({"CATDlgDiaOKNotification"}));
+}
+
+TEST_F(NumberFieldTest, ATextThatNobodyCanMendHoldsNothingUp) {
+    OpenWith();
+    TypeIn("deep");
+    Press(Qt::Key_Return);
+    _frame->SetVisibility(CATDlgHide);
+    Settle();
+    Leave();
+    QTest::keyClick(&Shown(*_other), Qt::Key_Return);
+    EXPECT_EQ(Command().TakeClasses(), Classes({"CATDlgDiaOKNotification"}));
 }
 
 TEST_F(NumberFieldTest, LeavingTheFieldPassesTheNumberOn) {
@@ -267,6 +318,46 @@ TEST_F(NumberFieldTest, HasNoArrowsWhereNoneAreAskedFor) {
     TypeIn("20");
     Press(Qt::Key_Return);
     EXPECT_EQ(Depth(), 20) << "it is typed in all the same";
+}
+
+TEST_F(NumberFieldTest, TheFirstFieldOfAWindowThatOpensCanBeTypedOver) {
+    _other->SetVisibility(CATDlgHide);
+    OpenWith();
+    EXPECT_EQ(QApplication::focusWidget(), &Field());
+    QTest::keyClicks(&Field(), QStringLiteral("20"));
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Depth(), 20);
+}
+
+TEST_F(NumberFieldTest, AWindowThatComesBackKeepsThePlaceInANumberThatWasBeingEdited) {
+    OpenWith();
+    const auto comeBack = [this] {
+        QFocusEvent in(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+        QApplication::sendEvent(&Field(), &in);
+    };
+    Line().setCursorPosition(2);
+    comeBack();
+    EXPECT_FALSE(Line().hasSelectedText());
+    EXPECT_EQ(Line().cursorPosition(), 2);
+    Line().setCursorPosition(0);
+    comeBack();
+    EXPECT_EQ(Line().selectedText(), Line().text()) << "one that was only looked at can be typed over";
+}
+
+TEST_F(NumberFieldTest, AGreyedNumberCanStillBeRead) {
+    OpenWith();
+    const QPalette usual = Line().palette();
+    _frame->SetSensitivity(CATDlgDisable);
+    Settle();
+    const QPalette greyed = Line().palette();
+    EXPECT_EQ(greyed.currentColorGroup(), QPalette::Disabled);
+    const int contrast =
+        greyed.color(QPalette::Window).lightness() - greyed.color(QPalette::Text).lightness();
+    EXPECT_GT(contrast, 110);
+    EXPECT_NE(greyed.color(QPalette::Text), usual.color(QPalette::Text)) << "and looks greyed";
+    _frame->SetSensitivity(CATDlgEnable);
+    Settle();
+    EXPECT_EQ(Line().palette().color(QPalette::Text), usual.color(QPalette::Text));
 }
 
 TEST_F(NumberFieldTest, FocusingAndLeavingChangesNothingThatIsNotShown) {

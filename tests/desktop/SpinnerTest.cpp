@@ -111,7 +111,7 @@ TEST_F(SpinnerTest, StepsByTheStepOfItsRange) {
     EXPECT_EQ(Text(), "49.5");
 }
 
-TEST_F(SpinnerTest, ATypedNumberIsTakenByEnterWhichPressesNoButton) {
+TEST_F(SpinnerTest, ATypedNumberIsTakenByEnterWhichOnlyThenPressesTheDefaultButton) {
     CATDlgSpinner& spinner = Make();
     Open();
     TypeIn("75");
@@ -119,6 +119,8 @@ TEST_F(SpinnerTest, ATypedNumberIsTakenByEnterWhichPressesNoButton) {
     Press(Qt::Key_Return);
     EXPECT_EQ(spinner.GetValue(), 75);
     EXPECT_EQ(Command().TakeClasses(), modified);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Command().TakeClasses(), Classes({"CATDlgDiaOKNotification"}));
 }
 
 TEST_F(SpinnerTest, ATypedNumberIsTakenWhenTheFieldIsLeft) {

@@ -1,5 +1,7 @@
+#include "CATDlgCheckButton.h"
 #include "CATDlgCombo.h"
 #include "CATDlgEditor.h"
+#include "CATDlgRadioButton.h"
 #include "DesktopFixture.h"
 #include "host/MessageCatalogs.h"
 
@@ -49,6 +51,22 @@ TEST_F(StandardButtonTest, EnterPressesTheDefaultButton) {
     EXPECT_FALSE(StandardButton("OK").isDefault());
     QTest::keyClick(&Shown(*editor), Qt::Key_Enter);
     EXPECT_EQ(Command().TakeClasses(), Classes({"CATDlgDiaAPPLYNotification"}));
+}
+
+TEST_F(StandardButtonTest, EnterPressesTheDefaultButtonFromWhatIsChosenInToo) {
+    auto* const combo = new CATDlgCombo(&Dialog(), "TypeCmb", CATDlgCmbDropDown);
+    combo->SetLine("A");
+    auto* const check = new CATDlgCheckButton(&Dialog(), "ToleranceCkb");
+    auto* const radio = new CATDlgRadioButton(&Dialog(), "FitRdb");
+    Open();
+    for (const CATDialog* widget :
+         {static_cast<CATDialog*>(combo), static_cast<CATDialog*>(check), static_cast<CATDialog*>(radio)}) {
+        Shown(*widget).setFocus();
+        QTest::keyClick(&Shown(*widget), Qt::Key_Return);
+        EXPECT_EQ(Command().TakeClasses(), okPressed) << widget->GetName().ConvertToChar();
+    }
+    EXPECT_EQ(check->GetState(), CATDlgUncheck);
+    EXPECT_EQ(radio->GetState(), CATDlgUncheck);
 }
 
 TEST_F(StandardButtonTest, EnterPressesNothingWithoutDefaultButton) {

@@ -252,6 +252,52 @@ TEST_F(WindowTest, WithoutASizeItIsAsLargeAsItsContentNeeds) {
     EXPECT_EQ(Window().height(), Window().sizeHint().height());
 }
 
+TEST_F(WindowTest, WithoutASizeItGrowsAndShrinksWithItsContent) {
+    Dialog().SetDefaultOrientation(Vertical);
+    auto* const lower = new CATDlgEditor(&Dialog(), "LowerEdt", CATDlgEdtMultiline);
+    lower->SetVisibleTextHeight(12);
+    lower->SetVisibility(CATDlgHide);
+    new CATDlgEditor(&Dialog(), "UpperEdt");
+    Open();
+    const QSize small = Window().size();
+    lower->SetVisibility(CATDlgShow);
+    Settle();
+    EXPECT_GE(Shown(*lower).height(), Shown(*lower).sizeHint().height());
+    EXPECT_GT(Window().height(), small.height());
+    lower->SetVisibility(CATDlgHide);
+    Settle();
+    EXPECT_EQ(Window().size(), small);
+    DragBorderTo(small + QSize(50, 40));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return HostPlace().height == small.height() + 40; }));
+    lower->SetVisibility(CATDlgShow);
+    Settle();
+    EXPECT_GE(Shown(*lower).height(), Shown(*lower).sizeHint().height()) << "that size is too little";
+    lower->SetVisibility(CATDlgHide);
+    Settle();
+    EXPECT_EQ(Window().size(), small + QSize(50, 40)) << "it is back at the person's size";
+}
+
+TEST_F(WindowTest, TheKeyboardBeginsAtTheFirstFieldThatCanBeUsedEachTimeItOpens) {
+    auto* const last = new CATDlgEditor(&Dialog(), "LastEdt");
+    auto* const first = new CATDlgEditor(&Dialog(), "FirstEdt");
+    auto* const disabled = new CATDlgEditor(&Dialog(), "DisabledEdt");
+    auto* const hidden = new CATDlgEditor(&Dialog(), "HiddenEdt");
+    disabled->SetSensitivity(CATDlgDisable);
+    hidden->SetVisibility(CATDlgHide);
+    int row = 0;
+    for (CATDlgEditor* editor : {hidden, disabled, first, last}) {
+        Dialog().SetHorizontalAttachment(row++, CATDlgTopOrLeft, editor, nullptr);
+        Dialog().SetVerticalAttachment(0, CATDlgTopOrLeft, editor, nullptr);
+    }
+    Open();
+    EXPECT_TRUE(Shown(*first).hasFocus());
+    Shown(*last).setFocus();
+    Dialog().SetVisibility(CATDlgHide);
+    Settle();
+    Open();
+    EXPECT_EQ(Window().focusWidget(), &Shown(*first));
+}
+
 TEST_F(WindowTest, ItsCloseBoxTellsTheProgramAndTheWindowStays) {
     Open();
     EXPECT_FALSE(Window().close());

@@ -58,6 +58,8 @@ class OrvKvLayout {
     OrvKvLayout& Rows(CATDialog* iChild, const OrvKvFrom& iLines);
     // Between which vertical lines the child lies, from left to right.
     OrvKvLayout& Columns(CATDialog* iChild, const OrvKvFrom& iLines);
+    // Forgets between which lines the child lies.
+    OrvKvLayout& Reset(CATDialog* iChild);
 
   private:
     CATDialog* _container;

@@ -63,6 +63,17 @@ TEST_F(OrvKvLayoutTest, AChildThatHasAnEndAloneIsAttachedThereAlone) {
     EXPECT_EQ(LinesOfChild(), Lines({{true, 1, 3}, {false, 6, 3}}));
 }
 
+TEST_F(OrvKvLayoutTest, AResetForgetsTheLinesOfThatChildAlone) {
+    auto* const other = new CATDlgFrame(_container, "other");
+    OrvKvLayout layout(_container);
+    layout.Rows(_child, OrvKvFrom(0).StretchTo(1)).Columns(_child, OrvKvFrom(2)).Rows(other, OrvKvFrom(3));
+    layout.Reset(nullptr).Reset(_child);
+    EXPECT_EQ(LinesOfChild(), Lines());
+    EXPECT_EQ(host::Inspector::AttachmentsOf(*other).size(), 1U);
+    layout.Reset(_child).Rows(_child, OrvKvFrom(5));
+    EXPECT_EQ(LinesOfChild(), Lines({{false, 5, 1}}));
+}
+
 TEST_F(OrvKvLayoutTest, AChildThatCouldNotBeMadeIsLeftOut) {
     OrvKvLayout(_container)
         .Rows(nullptr, OrvKvFrom(0).To(1))

@@ -104,12 +104,6 @@ void BuildAndShow(Panel* iPanel) {
     SetShown(iPanel, CATDlgShow);
 }
 
-// Forgets where a child of the container lies.
-void Detach(CATDialog& ioContainer, CATDialog* iChild) {
-    CATDialog* const endOfList = nullptr;
-    ioContainer.ResetAttachment(iChild, endOfList);
-}
-
 // The callee's own result where it failed.
 long PassOn(long iResult, const OrvKvSource& iWhere) {
     return FAILED(iResult) ? iResult : OrvKvReport::Success(iWhere);
@@ -332,9 +326,7 @@ void OrvKvMainPanel::TitleMoreLess(const CATString& iKey) {
 }
 
 void OrvKvMainPanel::DetachLowerFrames() {
-    Detach(*this, _pCombineLowerFrm);
-    Detach(*this, _pBottomFrm);
-    Detach(*this, _pRulesFrm);
+    OrvKvLayout(this).Reset(_pCombineLowerFrm).Reset(_pBottomFrm).Reset(_pRulesFrm);
 }
 
 long OrvKvMainPanel::SetGroups(const CATListValCATString* const iGroupKeys, int iSelected) {

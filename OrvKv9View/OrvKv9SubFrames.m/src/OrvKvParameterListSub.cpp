@@ -9,6 +9,7 @@
 #include "IsTempParameterModified.h"
 #include "OrvKvAsMultiList.h"
 #include "OrvKvCellText.h"
+#include "OrvKvDescription.h"
 #include "OrvKvGuard.h"
 #include "OrvKvModifiedParameterInMultiListNotification.h"
 #include "OrvKvNameIndex.h"
@@ -41,16 +42,6 @@ static constexpr struct {
 static CATUnicodeString ShownValue(const CATBaseUnknown_var& iParameter, bool iEditable) {
     const CATUnicodeString value = CATICkeParm_var(iParameter)->Show();
     return iEditable ? value : OrvKvInParentheses(value);
-}
-
-// A blank where the catalogue has no description.
-static CATUnicodeString DescriptionOf(const CATString& iName) {
-    static const CATString catalog("OrvKvParametersDescription");
-    static const CATUnicodeString missing("*resource error");
-    CATUnicodeString text = CATMsgCatalog::BuildMessage(catalog, iName, nullptr, 0, missing);
-    if (text == missing)
-        text = " ";
-    return text;
 }
 
 // "+0.1/-0.05"; empty when the parameter has no tolerance or both deviations are 0.
@@ -315,7 +306,7 @@ void OrvKvParameterListSub::AppendRow(int iRow, int iPosition, const CATUnicodeS
         _pParameterMul->SetColumnItem(ValueColumn, value);
     }
     if (_NoToleranceColumn == 0)
-        _pParameterMul->SetColumnItem(DescriptionColumn, DescriptionOf(name));
+        _pParameterMul->SetColumnItem(DescriptionColumn, OrvKvDescriptionOf(name, " "));
     if (_ToleranceShown[iPosition] >= 1)
         AppendTolerance(iRow, iPosition, iTolerance);
     Follow(parameter, iRow);

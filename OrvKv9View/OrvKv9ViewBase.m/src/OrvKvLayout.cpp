@@ -33,3 +33,9 @@ OrvKvLayout& OrvKvLayout::Columns(CATDialog* iChild, const OrvKvFrom& iLines) {
                                           EndOfList);
     return *this;
 }
+
+OrvKvLayout& OrvKvLayout::Reset(CATDialog* iChild) {
+    if (iChild != nullptr)
+        _container->ResetAttachment(iChild, EndOfList);
+    return *this;
+}

@@ -30,6 +30,11 @@ std::multiset<std::string> PlacesIn(const std::string& iText) {
     return places;
 }
 
+// The frame of the tolerance has no title: the check button above it says what it is.
+bool IsEmptyOnPurpose(const std::string& iFile, const std::string& iKey) {
+    return iFile == "OrvKvToleranceSub.CATNls" && iKey == "Title";
+}
+
 class MessageFilesTest : public AuditedTest, public testing::WithParamInterface<const char*> {
   protected:
     MessageFilesTest() { UseLibraryResources(); }
@@ -60,7 +65,8 @@ TEST_P(MessageFilesTest, HaveATextForEachEnglishKeyWithTheSamePlaces) {
         for (const std::string& key : keys) {
             const std::string english = Text(catalog, key, "");
             const std::string text = Text(catalog, key, GetParam());
-            EXPECT_NE(text.find_first_not_of(" \n"), std::string::npos) << file << ": " << key;
+            EXPECT_EQ(text.find_first_not_of(" \n") == std::string::npos, IsEmptyOnPurpose(file, key))
+                << file << ": " << key;
             EXPECT_EQ(PlacesIn(text), PlacesIn(english)) << file << ": " << key;
         }
     }

@@ -4,8 +4,10 @@
 #include "CATICkeParamFrame.h"
 #include "CATICkeParm.h"
 #include "CATIParmAsStored.h"
+#include "CATIParmTolerance.h"
 #include "host/Component.h"
 
+#include <functional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -29,6 +31,40 @@ class NotedValue : public host::Component<CATIParmAsStored> {
 
   private:
     CATICkeParm_var _parameter;
+    Calls& _calls;
+};
+
+// The tolerance of a parameter, which notes "max = DEVIATION" and "min = DEVIATION" when one is set.
+class NotedTolerance : public host::Component<CATIParmTolerance> {
+  public:
+    NotedTolerance(const CATICkeParm_var& iParameter, Calls& ioCalls)
+        : _tolerance(iParameter), _calls(ioCalls) {}
+
+    std::function<void()> onSet; // runs before a deviation is set
+
+    int GetTypeOfTolerance() override { return _tolerance->GetTypeOfTolerance(); }
+    double GetMaxTolerance() override { return _tolerance->GetMaxTolerance(); }
+    double GetMinTolerance() override { return _tolerance->GetMinTolerance(); }
+    HRESULT SetMaxTolerance(double iDeviation) override {
+        Note("max = ", iDeviation);
+        return _tolerance->SetMaxTolerance(iDeviation);
+    }
+    HRESULT SetMinTolerance(double iDeviation) override {
+        Note("min = ", iDeviation);
+        return _tolerance->SetMinTolerance(iDeviation);
+    }
+    HRESULT Unset() override { return _tolerance->Unset(); }
+
+  private:
+    void Note(const char* iWhat, double iDeviation) {
+        std::ostringstream call;
+        call << iWhat << iDeviation;
+        _calls.push_back(call.str());
+        if (onSet)
+            onSet();
+    }
+
+    CATIParmTolerance_var _tolerance;
     Calls& _calls;
 };
 

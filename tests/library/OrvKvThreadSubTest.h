@@ -88,20 +88,6 @@ inline support::Report SuccessAfter(int iCalledOperations) {
     return report;
 }
 
-// The key of the error that the call raises; empty when it raises none.
-template<class Call>
-std::string ErrorRaisedBy(const Call& iCall) {
-    try {
-        iCall();
-    } catch (CATBaseUnknown* raised) {
-        auto* const error = dynamic_cast<CATError*>(raised);
-        const std::string key = error == nullptr ? raised->IsA() : error->GetMsgId();
-        raised->Release();
-        return key;
-    }
-    return std::string();
-}
-
 } // namespace threadSub
 
 class OrvKvThreadSubTest : public PanelTest {

@@ -9,6 +9,7 @@
 #include "CATDlgEditor.h"
 #include "CATDlgFrame.h"
 #include "CATDlgPushButton.h"
+#include "CATError.h"
 #include "CATListValCATString.h"
 #include "host/DialogPath.h"
 
@@ -82,6 +83,20 @@ class CountingChild : public CATDlgFrame {
     const CATDialog& _father;
     std::vector<int>& _counts;
 };
+
+// The key of the error that the call raises; empty when it raises none.
+template<class Call>
+std::string ErrorRaisedBy(const Call& iCall) {
+    try {
+        iCall();
+    } catch (CATBaseUnknown* raised) {
+        auto* const error = dynamic_cast<CATError*>(raised);
+        const std::string key = error == nullptr ? raised->IsA() : error->GetMsgId();
+        raised->Release();
+        return key;
+    }
+    return std::string();
+}
 
 // What an operation tells that has caught a CATInternalError. iOperation is "Class::Operation".
 support::Report CaughtIn(const std::string& iSource, const std::string& iOperation, const std::string& iKey,

@@ -2,15 +2,19 @@
 
 #include "CATICkeParamFrame.h"
 #include "CATICkeParm.h"
+#include "CATIParmEvents.h"
 #include "CATIParmTolerance.h"
 #include "host/Component.h"
 
+#include <algorithm>
 #include <functional>
+#include <vector>
 
 namespace support {
 
-// A length that a test has a hand in: what happens while its value is read, which tolerance it has and what
-// makes its edition frames. It is followed like any other, its events are those of the length.
+// A length that a test has a hand in: what happens while its value is read, of which type it says to be,
+// which tolerance and events it has, what makes its edition frames, and which interfaces it lacks. Otherwise
+// it is the length.
 //
 //     const auto depth = host::Adopt(new StandInParameter(Length("T", 20)));
 //     depth->onShow = [] { CATThrow(new CATInternalError("Error_InShow", "Catalogue")); };
@@ -18,16 +22,23 @@ class StandInParameter : public host::Component<CATICkeParm> {
   public:
     explicit StandInParameter(const CATICkeParm_var& iLength) : _length(iLength) {}
 
-    std::function<void()> onShow;    // runs before the value is given
-    CATIParmTolerance_var tolerance; // that of the length when it is null
-    CATICkeParamFrame_var frames;    // those of the length when it is null
+    std::function<void()> onShow;            // runs before the value is given
+    std::function<CATICkeType_var()> onType; // gives the type; that of the length when it is empty
+    CATIParmTolerance_var tolerance;         // that of the length when it is null
+    CATIParmEvents_var events;               // those of the length when it is null
+    CATICkeParamFrame_var frames;            // those of the length when it is null
+    std::vector<IID> missing;                // interfaces that it does not have
 
     using host::Component<CATICkeParm>::QueryInterface;
     HRESULT QueryInterface(const IID& iInterface, void** oPointer) override {
         if (iInterface == IID_CATICkeParm)
             return host::Component<CATICkeParm>::QueryInterface(iInterface, oPointer);
+        if (std::find(missing.begin(), missing.end(), iInterface) != missing.end())
+            return CATICkeParm::QueryInterface(iInterface, oPointer);
         if (iInterface == IID_CATIParmTolerance && !!tolerance)
             return tolerance->QueryInterface(iInterface, oPointer);
+        if (iInterface == IID_CATIParmEvents && !!events)
+            return events->QueryInterface(iInterface, oPointer);
         if (iInterface == IID_CATICkeParamFrame && !!frames)
             return frames->QueryInterface(iInterface, oPointer);
         return _length->QueryInterface(iInterface, oPointer);
@@ -40,7 +51,7 @@ class StandInParameter : public host::Component<CATICkeParm> {
         return _length->Show();
     }
 
-    CATICkeType_var Type() override { return _length->Type(); }
+    CATICkeType_var Type() override { return onType ? onType() : _length->Type(); }
     double AsReal() override { return _length->AsReal(); }
     int AsInteger() override { return _length->AsInteger(); }
     CATUnicodeString AsString() override { return _length->AsString(); }

@@ -2,9 +2,9 @@
 // standards.
 
 #include "ShippedCatalogue.h"
+#include "ShippedTable.h"
 
 #include <cmath>
-#include <fstream>
 #include <map>
 #include <sstream>
 
@@ -35,36 +35,11 @@ const std::vector<TableFile> tableFiles{{"Metric coarse", "metric_coarse.csv", 4
                                         {"UNEF", "unef.csv", 25},
                                         {"G", "g.csv", 24}};
 
-Lines Cells(const std::string& line) {
-    Lines cells;
-    std::istringstream stream(line + ",end");
-    for (std::string cell; std::getline(stream, cell, ',');) {
-        cells.push_back(cell);
-    }
-    cells.pop_back();
-    return cells;
+std::vector<ShippedRow> Read(const char* file) {
+    return ReadShippedTable(std::string("threads/") + file);
 }
 
-// The lines of a file as cells by the name of their column. The tables have no quotation marks.
-std::vector<std::map<std::string, std::string>> Read(const char* file) {
-    std::ifstream stream(std::string(KELVANE_CATALOGUE_DIR "/threads/") + file);
-    std::string line;
-    EXPECT_TRUE(std::getline(stream, line)) << file;
-    const Lines columns = Cells(line);
-    std::vector<std::map<std::string, std::string>> rows;
-    while (std::getline(stream, line)) {
-        const Lines cells = Cells(line);
-        EXPECT_EQ(cells.size(), columns.size()) << line;
-        std::map<std::string, std::string> row;
-        for (std::size_t i = 0; i < std::min(cells.size(), columns.size()); ++i) {
-            row[columns[i]] = cells[i];
-        }
-        rows.push_back(row);
-    }
-    return rows;
-}
-
-std::optional<double> NumberOf(std::map<std::string, std::string>& row, const char* column) {
+std::optional<double> NumberOf(ShippedRow& row, const char* column) {
     return row[column].empty() ? std::nullopt : std::optional(std::strtod(row[column].c_str(), nullptr));
 }
 

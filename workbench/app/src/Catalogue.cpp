@@ -67,7 +67,8 @@ std::string Summary(const engineering::FeatureCatalogue& catalogue) {
         threads += standard.threads.size();
     return Counted(catalogue.Groups().size(), "group") + ", " + Counted(types, "type") + ", " +
            Counted(sets, "parameter set") + ", " + Counted(rules, "rule") + ", " +
-           Counted(threads, "thread") + ", no problems";
+           Counted(threads, "thread") + ", " +
+           Counted(catalogue.Fits().CountOfDeviations(), "fundamental deviation") + ", no problems";
 }
 
 } // namespace

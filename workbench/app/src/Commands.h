@@ -11,5 +11,6 @@ int Open(const Options& options, const WorkData& data);
 int Replay(const Options& options, const WorkData& data);
 int Dump(const Options& options, const WorkData& data);
 int ShowThread(const Options& options, const WorkData& data);
+int ShowFit(const Options& options, const WorkData& data);
 
 } // namespace app

@@ -1,4 +1,5 @@
-// kelvane: the feature dialog with its catalogue, for people, for sessions and for checks; and its threads.
+// kelvane: the feature dialog with its catalogue, for people, for sessions and for checks; its threads and
+// its fits.
 
 #include "Catalogue.h"
 #include "Commands.h"
@@ -62,6 +63,8 @@ int RunWithCatalogue(const Options& options) {
         return Dump(options, *data);
     case Options::Command::Thread:
         return ShowThread(options, *data);
+    case Options::Command::Fit:
+        return ShowFit(options, *data);
     default:
         return Open(options, *data);
     }

@@ -43,6 +43,7 @@ class CommandLine {
         AddDump();
         AddCheck();
         AddThread();
+        AddFit();
         _app.footer("Without a command the feature dialog is opened.\n"
                     "Environment: KELVANE_DATA (data folder), KELVANE_TRACE (levels, \"channel:level,...\"), "
                     "KELVANE_FAIL_CALL (n or name:n).\n"
@@ -129,6 +130,21 @@ class CommandLine {
             ->required();
         thread.add_flag("--json", _options.json, "Print them as JSON");
         AddCatalogueOption(thread);
+    }
+
+    void AddFit() {
+        CLI::App& fit = AddCommand(
+            "fit", "Print the limits of an ISO 286 class, such as 25 H7, or of a fit, such as 25 H7/g6",
+            Options::Command::Fit);
+        fit.add_option("NOMINAL", _options.nominal,
+                       "Nominal size in mm, above 0 up to 500: 25, 25.4, 25,4mm ...")
+            ->required();
+        fit.add_option(
+               "CLASS", _options.designation,
+               "H7, js6: upper and lower deviation in mm; H7/g6: hole, shaft, clearance or interference")
+            ->required();
+        fit.add_flag("--json", _options.json, "Print them as JSON");
+        AddCatalogueOption(fit);
     }
 
     CLI::App _app{"kelvane - the feature dialog with its catalogue", "kelvane"};

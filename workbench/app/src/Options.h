@@ -11,7 +11,7 @@
 namespace app {
 
 struct Options {
-    enum class Command { Open, Replay, Dump, Check, Thread };
+    enum class Command { Open, Replay, Dump, Check, Thread, Fit };
 
     Command command = Command::Open;
     workbench::FeatureCommand::Mode mode = workbench::FeatureCommand::Mode::Parameters;
@@ -22,7 +22,8 @@ struct Options {
     std::string pictures;    ///< folder; empty for none
     std::string preferences; ///< file; empty for the user's own, or for none where a session is played
     std::string transcript;  ///< file; empty for none
-    std::vector<std::string> designation; ///< words of a thread's designation
+    std::vector<std::string> designation; ///< words of a thread's designation, or of a class or fit
+    std::string nominal;                  ///< nominal size of that class or fit, as written
     bool json = false;
 };
 

@@ -1,14 +1,11 @@
 #include "Commands.h"
 
 #include "ExitStatus.h"
+#include "Words.h"
 #include "engineering/ThreadTables.h"
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
-#include <array>
-#include <cctype>
-#include <charconv>
 #include <iostream>
 
 namespace app {
@@ -21,44 +18,25 @@ using engineering::ThreadStandard;
 using engineering::ThreadTables;
 
 constexpr int jsonIndent = 2;
-constexpr std::size_t longest = 100;
 constexpr std::size_t proposals = 3;
 
-std::string Joined(const std::vector<std::string>& texts, const char* between) {
-    std::string joined;
-    for (const std::string& text : texts)
-        joined += (joined.empty() ? "" : between) + text;
-    return joined;
-}
-
-/// The shortest text that gives the same number: as the table has it, without zeros at the end.
-std::string TextOf(double number) {
-    std::array<char, 32> text{};
-    const std::to_chars_result result = std::to_chars(text.data(), text.data() + text.size(), number);
-    return {text.data(), result.ptr};
-}
-
-std::string Millimetres(double length) {
-    return TextOf(length) + " mm";
-}
-
-void PrintLine(const std::string& name, const std::string& value) {
+void Print(const std::string& name, const std::string& value) {
     constexpr std::size_t width = 18;
-    std::cout << name << std::string(width - name.size(), ' ') << value << '\n';
+    PrintLine(name, value, width);
 }
 
 void PrintThread(const FoundThread& found) {
     const Thread& thread = *found.thread;
-    PrintLine("thread", thread.designation);
-    PrintLine("table", found.standard->name);
-    PrintLine("standard", found.standard->standard);
-    PrintLine("major diameter", Millimetres(thread.majorDiameter));
-    PrintLine("pitch", Millimetres(thread.pitch));
+    Print("thread", thread.designation);
+    Print("table", found.standard->name);
+    Print("standard", found.standard->standard);
+    Print("major diameter", Millimetres(thread.majorDiameter));
+    Print("pitch", Millimetres(thread.pitch));
     if (thread.threadsPerInch)
-        PrintLine("threads per inch", TextOf(*thread.threadsPerInch));
-    PrintLine("pitch diameter", Millimetres(thread.pitchDiameter));
-    PrintLine("minor diameter", Millimetres(thread.minorDiameter));
-    PrintLine("tap drill", thread.tapDrill ? Millimetres(*thread.tapDrill) : "none tabulated");
+        Print("threads per inch", TextOf(*thread.threadsPerInch));
+    Print("pitch diameter", Millimetres(thread.pitchDiameter));
+    Print("minor diameter", Millimetres(thread.minorDiameter));
+    Print("tap drill", thread.tapDrill ? Millimetres(*thread.tapDrill) : "none tabulated");
 }
 
 nlohmann::ordered_json NumberOrNull(const std::optional<double>& number) {
@@ -79,20 +57,6 @@ void PrintJson(const FoundThread& found) {
     std::cout << answer.dump(jsonIndent) << '\n';
 }
 
-/// Why no thread can be asked for with it; empty for a text that may name one.
-std::string FaultOf(const std::string& designation) {
-    if (designation.find_first_not_of(" \t") == std::string::npos)
-        return "the designation of the thread is empty";
-    if (designation.size() > longest)
-        return "the designation of the thread has more than " + std::to_string(longest) + " characters";
-    const auto isControl = [](char c) {
-        return std::iscntrl(static_cast<unsigned char>(c)) != 0 && c != '\t';
-    };
-    if (std::ranges::any_of(designation, isControl))
-        return "the designation of the thread has a control character";
-    return {};
-}
-
 std::string TellUnknown(const ThreadTables& tables, const std::string& designation) {
     const std::string told = "there is no thread '" + designation + "'";
     if (tables.Standards().empty())
@@ -110,7 +74,7 @@ std::string TellUnknown(const ThreadTables& tables, const std::string& designati
 
 int ShowThread(const Options& options, const WorkData& data) {
     const std::string designation = Joined(options.designation, " ");
-    const std::string fault = FaultOf(designation);
+    const std::string fault = TextFault(designation, "the designation of the thread");
     if (!fault.empty())
         return Complain(ExitUnusable, fault.c_str());
     const ThreadTables& tables = data.catalogue.Threads();

@@ -1,6 +1,7 @@
 #include "engineering/CatalogueLoader.h"
 
 #include "FileReport.h"
+#include "FitTable.h"
 #include "InputTable.h"
 #include "ParameterTable.h"
 #include "RuleTable.h"
@@ -54,14 +55,26 @@ class CatalogueReader {
         _badConditions = ReadRules(_folder, types, _problems);
         std::optional<ThreadTables> threads = ReadThreads(_folder, _problems);
         CheckThreadParameters(_folder, types, threads, _problems);
+        std::optional<LimitsAndFits> fits = Fits();
         std::vector<FeatureType> featureTypes = FeatureTypes(types, threads.value_or(ThreadTables()));
         if (!IsSound()) {
             return std::nullopt;
         }
-        return FeatureCatalogue(std::move(groups.keys), std::move(featureTypes), std::move(*threads));
+        return FeatureCatalogue(std::move(groups.keys), std::move(featureTypes), std::move(*threads),
+                                std::move(*fits));
     }
 
   private:
+    // A catalogue without the folder has none.
+    std::optional<LimitsAndFits> Fits() {
+        const fs::path folder = _folder / "fits";
+        std::error_code error;
+        if (fs::symlink_status(folder, error).type() == fs::file_type::not_found) {
+            return LimitsAndFits();
+        }
+        return IsFolder(folder, _problems) ? ReadFits(folder, _problems) : std::nullopt;
+    }
+
     bool IsSound() const { return _problems.size() == _badConditions; }
 
     std::vector<FeatureType> FeatureTypes(TypeTable& types, const ThreadTables& threads) {

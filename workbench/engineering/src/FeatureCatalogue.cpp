@@ -5,8 +5,9 @@
 namespace engineering {
 
 FeatureCatalogue::FeatureCatalogue(std::vector<std::string> groups, std::vector<FeatureType> types,
-                                   ThreadTables threads)
-    : _groups(std::move(groups)), _types(std::move(types)), _threads(std::move(threads)) {
+                                   ThreadTables threads, LimitsAndFits fits)
+    : _groups(std::move(groups)), _types(std::move(types)), _threads(std::move(threads)),
+      _fits(std::move(fits)) {
     for (const std::string& group : _groups) {
         _typesOfGroup[group];
     }

@@ -86,8 +86,22 @@ class ParameterReader {
         if (magnitude && parameter.toleranceEditable && !HasUnit(*magnitude)) {
             Fail("tolerance_editable", "a " + std::string(NameOf(*magnitude)) + " carries no tolerance");
         }
+        parameter.side = Side(magnitude);
         parameter.optional = Take("optional", ParseFlag(Text("optional"))).value_or(false);
         return parameter;
+    }
+
+    FitSide Side(const std::optional<Magnitude>& magnitude) {
+        if (!_table.HasColumn("side") || Text("side").empty()) {
+            return FitSide::Hole;
+        }
+        const std::optional<FitSide> side = FitSideNamed(Text("side"));
+        if (!side) {
+            Fail("side", Quoted(Text("side")) + " is neither hole nor shaft");
+        } else if (magnitude && *magnitude != Magnitude::Length) {
+            Fail("side", "only a LENGTH has a side");
+        }
+        return side.value_or(FitSide::Hole);
     }
 
     std::string UnitOf(Magnitude magnitude) {
@@ -134,7 +148,7 @@ void ReadParameters(const std::filesystem::path& folder, TypeTable& types, std::
     const std::optional<CsvTable> table = CsvTable::Read(folder / "parameters.csv", report);
     if (!table || !table->ExpectColumns({"type", "name", "magnitude", "unit", "tolerance", "value_editable",
                                          "tolerance_editable", "optional"},
-                                        report)) {
+                                        report, {"side"})) {
         MarkIncomplete(types);
         return;
     }

@@ -1,44 +1,14 @@
 #include "engineering/Tolerance.h"
 
 #include "CellText.h"
-
-#include <algorithm>
-#include <array>
+#include "engineering/ToleranceClass.h"
 
 namespace engineering {
 
 namespace {
 
-constexpr std::array<std::string_view, 28> shaftLetters{"a", "b", "c",  "cd", "d", "e",  "ef", "f", "fg", "g",
-                                                        "h", "j", "js", "k",  "m", "n",  "p",  "r", "s",  "t",
-                                                        "u", "v", "x",  "y",  "z", "za", "zb", "zc"};
-constexpr std::array<std::string_view, 20> grades{"01", "0",  "1",  "2",  "3",  "4",  "5",  "6",  "7",  "8",
-                                                  "9",  "10", "11", "12", "13", "14", "15", "16", "17", "18"};
 constexpr std::string_view threadGrades = "3456789";
 constexpr std::string_view threadPositions = "GHabcdefgh";
-constexpr std::string_view digits = "0123456789";
-
-bool IsUpper(char c) {
-    return c >= 'A' && c <= 'Z';
-}
-
-std::string ToLower(std::string_view letters) {
-    std::string lower(letters);
-    std::ranges::transform(lower, lower.begin(),
-                           [](char c) { return IsUpper(c) ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lower;
-}
-
-bool IsFitLetter(std::string_view letters) {
-    const bool oneCase = std::ranges::all_of(letters, IsUpper) || std::ranges::none_of(letters, IsUpper);
-    return oneCase && std::ranges::find(shaftLetters, ToLower(letters)) != shaftLetters.end();
-}
-
-bool IsFitClass(std::string_view text) {
-    const std::size_t gradeStart = std::min(text.find_first_of(digits), text.size());
-    return IsFitLetter(text.substr(0, gradeStart)) &&
-           std::ranges::find(grades, text.substr(gradeStart)) != grades.end();
-}
 
 bool IsThreadClass(std::string_view text) {
     return text.size() == 2 && threadGrades.find(text[0]) != std::string_view::npos &&
@@ -75,7 +45,7 @@ Parsed<Tolerance> ParseTolerance(std::string_view text, Magnitude magnitude, dou
     if (slash != std::string_view::npos) {
         return ParseLimits(text, slash, unitToBase);
     }
-    const bool fitClass = IsFitClass(text);
+    const bool fitClass = ParseToleranceClass(text).value.has_value();
     if (!fitClass && !IsThreadClass(text)) {
         return Bad(text, "neither a class such as H13 or 6H nor upper/lower such as +0.25/0");
     }

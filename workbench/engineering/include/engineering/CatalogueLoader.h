@@ -9,8 +9,8 @@
 //
 // The folder holds groups.csv, types.csv, parameters.csv and the folder sets; inputs.csv where types have
 // geometry inputs, rules.csv where they have rules, threads.csv and the folder threads where they have
-// threads. Its README.md describes them. Files are UTF-8, at most 64 MiB each, with or without
-// byte order mark, lines ending in LF or CRLF.
+// threads, the folder fits where lengths have classes of ISO 286. Its README.md describes them. Files are
+// UTF-8, at most 64 MiB each, with or without byte order mark, lines ending in LF or CRLF.
 
 #include "engineering/FeatureCatalogue.h"
 #include "engineering/Problem.h"

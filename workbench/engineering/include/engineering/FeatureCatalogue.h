@@ -7,6 +7,7 @@
 //       for (const std::string& type : *result.catalogue->TypesOf(group)) ...
 
 #include "engineering/FeatureType.h"
+#include "engineering/LimitsAndFits.h"
 #include "engineering/ThreadTables.h"
 
 #include <cstddef>
@@ -21,7 +22,7 @@ class FeatureCatalogue {
   public:
     /// Takes everything over. Keys are unique and every type names one of the groups.
     FeatureCatalogue(std::vector<std::string> groups, std::vector<FeatureType> types,
-                     ThreadTables threads = {});
+                     ThreadTables threads = {}, LimitsAndFits fits = {});
 
     /// Group keys in the order they are shown.
     const std::vector<std::string>& Groups() const { return _groups; }
@@ -41,10 +42,14 @@ class FeatureCatalogue {
     /// The threads that features with a thread choose from; no standards where the catalogue has none.
     const ThreadTables& Threads() const { return _threads; }
 
+    /// The limits and fits of toleranced lengths; empty where the catalogue has none.
+    const LimitsAndFits& Fits() const { return _fits; }
+
   private:
     std::vector<std::string> _groups;
     std::vector<FeatureType> _types;
     ThreadTables _threads;
+    LimitsAndFits _fits;
     std::map<std::string, std::vector<std::string>, std::less<>> _typesOfGroup; ///< group key to type keys
     std::map<std::string, std::size_t, std::less<>> _typeIndex;                 ///< type key to position
 };

@@ -4,6 +4,7 @@
 
 #include "engineering/Magnitude.h"
 #include "engineering/Tolerance.h"
+#include "engineering/ToleranceClass.h"
 
 #include <string>
 
@@ -17,6 +18,7 @@ struct Parameter {
     bool valueEditable = false;              ///< a designer may depart from the tabulated value
     bool toleranceEditable = false;          ///< a designer may depart from the tabulated tolerance
     bool optional = false;                   ///< sets may leave the value open: not tabulated
+    FitSide side{FitSide::Hole};             ///< which classes of ISO 286 a designer chooses from
 };
 
 } // namespace engineering

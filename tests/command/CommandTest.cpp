@@ -14,6 +14,7 @@
 #include "host/EventScope.h"
 #include "host/Inspector.h"
 #include "host/MessageCatalogs.h"
+#include "host/Messages.h"
 #include "host/Preferences.h"
 #include "host/ValueFrame.h"
 
@@ -93,6 +94,11 @@ bool CommandTest::StartPrepared() {
     const bool isStarted = _command->Start();
     host::EventScope::RunIdle();
     return isStarted;
+}
+
+void CommandTest::EndCommand() {
+    _recorder.reset();
+    _command.reset();
 }
 
 host::Outcome CommandTest::ChooseGroup(int iLine) {
@@ -222,6 +228,14 @@ Texts CommandTest::RuleMessages() {
         messages.emplace_back(text.ConvertToUTF8());
     }
     return messages;
+}
+
+Texts CommandTest::TakeMessages() {
+    Texts texts;
+    for (const host::Message& message : host::Messages::Journal())
+        texts.push_back(message.text);
+    host::Messages::ClearJournal();
+    return texts;
 }
 
 std::string CommandTest::Light() {

@@ -45,6 +45,8 @@ class CommandTest : public support::AuditedTest {
     // The same in two steps, for what is to hear everything from the start on.
     void Prepare(FeatureCommand::Mode iMode, const engineering::FeatureCatalogue& iCatalogue = Shipped());
     [[nodiscard]] bool StartPrepared();
+    // The end of the command while its dialogs go on.
+    void EndCommand();
     session::NotificationRecorder& Recorder() { return *_recorder; }
     FeatureCommand& Command() { return *_command; }
 
@@ -82,6 +84,8 @@ class CommandTest : public support::AuditedTest {
     static Texts RuleMessages();
     static std::string Light();
 
+    // Texts of the messages shown since the last call.
+    static Texts TakeMessages();
     // What the command has heard since the last call.
     std::vector<HeardNotification> TakeHeard();
     // The classes of what it has heard, without "OrvKv" and "Notification".

@@ -43,13 +43,6 @@ class RulesTest : public CommandTest {
         TakeHeard();
     }
     bool IsRunning() { return Command().CurrentState() == FeatureCommand::State::Running; }
-    static Texts TakeMessages() {
-        Texts texts;
-        for (const host::Message& message : host::Messages::Journal())
-            texts.push_back(message.text);
-        host::Messages::ClearJournal();
-        return texts;
-    }
 
     const FeatureCatalogue _washers = Washers();
 };

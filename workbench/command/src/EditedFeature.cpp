@@ -3,8 +3,9 @@
 #include "CATCallbackManager.h"
 #include "CATIParmAsStored.h"
 #include "CATIParmEvents.h"
-#include "CATIParmTolerance.h"
 #include "host/FeatureParameters.h"
+
+#include <algorithm>
 
 namespace workbench {
 
@@ -15,22 +16,22 @@ namespace {
 using engineering::ParameterValue;
 using engineering::Tolerance;
 
-// Limits that the parameter itself has; none otherwise.
-Tolerance LimitsOf(const CATICkeParm_var& parameter) {
-    const CATIParmTolerance_var limits(parameter);
-    if (!limits || limits->GetTypeOfTolerance() != 1)
-        return {};
-    return {Tolerance::Kind::Limits, {}, limits->GetMaxTolerance(), limits->GetMinTolerance()};
-}
-
 bool IsClass(const Tolerance& tolerance) {
     return tolerance.kind == Tolerance::Kind::FitClass || tolerance.kind == Tolerance::Kind::ThreadClass;
 }
 
 } // namespace
 
-EditedFeature::EditedFeature(const engineering::FeatureType& type, std::function<void()> changed)
-    : _type(type), _changed(std::move(changed)), _modifications(host::NewFeatureParameters()) {
+template<class Slots>
+auto* EditedFeature::FindIn(Slots& slots, const std::string& name) {
+    const auto found = std::ranges::find_if(
+        slots, [&name](const Slot& slot) { return slot.isTabulated && slot.definition->name == name; });
+    return found == slots.end() ? nullptr : &*found;
+}
+
+EditedFeature::EditedFeature(const engineering::FeatureType& type, const engineering::LimitsAndFits& fits,
+                             std::function<void()> changed)
+    : _type(type), _fits(fits), _changed(std::move(changed)), _modifications(host::NewFeatureParameters()) {
     _slots.reserve(type.Parameters().size());
     for (const engineering::Parameter& definition : type.Parameters()) {
         Slot slot;
@@ -55,7 +56,9 @@ void EditedFeature::Subscribe(std::size_t slot) {
 
 void EditedFeature::OnChanged(CATCallbackEvent, void*, CATNotification*, CATSubscriberData slot,
                               CATCallback) {
-    NoteModification(*static_cast<const Slot*>(slot));
+    auto& changed = *static_cast<Slot*>(slot);
+    FollowFit(changed);
+    NoteModification(changed);
     if (_changed)
         _changed();
 }
@@ -70,9 +73,43 @@ void EditedFeature::NoteModification(const Slot& slot) {
 ParameterValue EditedFeature::Now(const Slot& slot) const {
     if (!slot.isTabulated || !slot.parameter)
         return {};
+    return {workbench::ValueOf(slot.parameter, slot.definition->magnitude),
+            KeepsFit(slot) ? slot.fit : LimitsOf(slot.parameter)};
+}
+
+std::optional<engineering::Deviations> EditedFeature::LimitsOfFit(const Slot& slot) const {
+    const auto fitClass = engineering::ParseToleranceClass(slot.fit.fitClass);
+    const CATIParmAsStored_var stored(slot.parameter);
+    if (slot.fit.kind != Tolerance::Kind::FitClass || !fitClass.value || !stored)
+        return std::nullopt;
+    return _fits.DeviationsOf(stored->GetValue(), *fitClass.value).value;
+}
+
+bool EditedFeature::KeepsFit(const Slot& slot) const {
+    if (!IsClass(slot.fit))
+        return false;
     const Tolerance limits = LimitsOf(slot.parameter);
-    const bool keepsClass = limits.kind == Tolerance::Kind::None && IsClass(slot.tolerance);
-    return {ValueOf(slot.parameter, slot.definition->magnitude), keepsClass ? slot.tolerance : limits};
+    if (limits.kind == Tolerance::Kind::None)
+        return !slot.fitLimits;
+    return slot.fitLimits == engineering::Deviations{limits.upper, limits.lower};
+}
+
+void EditedFeature::StoreTolerance(Slot& ioSlot, const Tolerance& tolerance) {
+    ioSlot.fit = IsClass(tolerance) ? tolerance : Tolerance();
+    ioSlot.fitLimits = LimitsOfFit(ioSlot);
+    if (!IsClass(tolerance))
+        return StoreLimits(ioSlot.parameter, tolerance);
+    StoreLimits(ioSlot.parameter,
+                ioSlot.fitLimits
+                    ? Tolerance{Tolerance::Kind::Limits, {}, ioSlot.fitLimits->upper, ioSlot.fitLimits->lower}
+                    : Tolerance());
+}
+
+void EditedFeature::FollowFit(Slot& ioSlot) {
+    if (KeepsFit(ioSlot))
+        return StoreTolerance(ioSlot, ioSlot.fit);
+    ioSlot.fit = {};
+    ioSlot.fitLimits.reset();
 }
 
 void EditedFeature::Take(const engineering::ParameterSet& set) {
@@ -88,12 +125,11 @@ void EditedFeature::Take(const engineering::ParameterSet& set) {
 void EditedFeature::Change(Slot& ioSlot, const ParameterValue& entry) {
     const ParameterValue before = Now(ioSlot);
     ioSlot.isTabulated = entry.value.has_value();
-    ioSlot.tolerance = entry.tolerance;
     const CATIParmEvents_var events(ioSlot.parameter);
     if (engineering::SameValue(before, entry) || !events)
         return NoteModification(ioSlot);
     if (before.tolerance != entry.tolerance) {
-        StoreLimits(ioSlot.parameter, entry.tolerance);
+        StoreTolerance(ioSlot, entry.tolerance);
         events->RaiseToleranceChange();
     }
     if (entry.value && before.value != entry.value && Write(ioSlot.parameter, *entry.value))
@@ -135,13 +171,14 @@ ParameterLists EditedFeature::Lists() const {
     ParameterLists lists;
     for (const Slot& slot : _slots) {
         const engineering::Parameter& definition = *slot.definition;
-        const bool hasTolerance = Now(slot).tolerance.kind != Tolerance::Kind::None;
+        const Tolerance tolerance = Now(slot).tolerance;
+        const bool hasTolerance = tolerance.kind != Tolerance::Kind::None;
         const bool showsTolerance = slot.isTabulated && (hasTolerance || definition.toleranceEditable);
         // A text for a tolerance that is not editable would take the place of the value.
-        const bool showsFit = definition.toleranceEditable && IsClass(slot.tolerance);
+        const bool showsFit = definition.toleranceEditable && IsClass(tolerance);
         lists.parameters.Append(slot.parameter);
         lists.names.Append(definition.name.c_str());
-        lists.tolerances.Append(showsFit ? FitText(slot.tolerance) : CATUnicodeString());
+        lists.tolerances.Append(showsFit ? FitText(tolerance) : CATUnicodeString());
         lists.valueShown.Append(slot.isTabulated ? 1 : 0);
         lists.valueEditable.Append(definition.valueEditable ? 1 : 0);
         lists.toleranceShown.Append(showsTolerance ? 1 : 0);
@@ -159,10 +196,48 @@ std::vector<ParameterValue> EditedFeature::Values() const {
 }
 
 const EditedFeature::Slot* EditedFeature::Find(const std::string& name) const {
-    for (const Slot& slot : _slots)
-        if (slot.definition->name == name)
-            return slot.isTabulated ? &slot : nullptr;
-    return nullptr;
+    return FindIn(_slots, name);
+}
+
+EditedFeature::Slot* EditedFeature::Find(const std::string& name) {
+    return FindIn(_slots, name);
+}
+
+ParameterValue EditedFeature::ValueOf(const std::string& name) const {
+    const Slot* const slot = Find(name);
+    return slot == nullptr ? ParameterValue() : Now(*slot);
+}
+
+void EditedFeature::Give(const std::string& name, const ParameterValue& entry) {
+    Slot* const slot = Find(name);
+    if (slot == nullptr)
+        return;
+    const bool isSame = engineering::SameValue(Now(*slot), entry);
+    Change(*slot, entry);
+    if (isSame)
+        Announce(name);
+}
+
+void EditedFeature::UseFit(const std::string& name, const std::string& fitClass) {
+    Slot* const slot = Find(name);
+    if (slot == nullptr)
+        return;
+    slot->fit = {Tolerance::Kind::FitClass, fitClass, 0, 0};
+    slot->fitLimits = LimitsOfFit(*slot);
+}
+
+void EditedFeature::Settle(const std::string& name) {
+    Slot* const slot = Find(name);
+    if (slot == nullptr)
+        return;
+    FollowFit(*slot);
+    NoteModification(*slot);
+}
+
+void EditedFeature::Announce(const std::string& name) {
+    const CATIParmEvents_var events(Parameter(name));
+    if (!!events)
+        events->RaiseChange(1);
 }
 
 CATICkeParm_var EditedFeature::Parameter(const std::string& name) const {
@@ -172,9 +247,10 @@ CATICkeParm_var EditedFeature::Parameter(const std::string& name) const {
 
 CATUnicodeString EditedFeature::Fit(const std::string& name) const {
     const Slot* const slot = Find(name);
-    if (slot == nullptr || !IsClass(Now(*slot).tolerance))
+    const Tolerance tolerance = slot == nullptr ? Tolerance() : Now(*slot).tolerance;
+    if (!IsClass(tolerance))
         return {};
-    const CATUnicodeString fit = FitText(slot->tolerance);
+    const CATUnicodeString fit = FitText(tolerance);
     return slot->definition->toleranceEditable ? fit : CATUnicodeString("(") + fit + ")";
 }
 

@@ -10,6 +10,11 @@
 #include "OrvKvInvertFeatureNotification.h"
 #include "OrvKvMainPanel.h"
 #include "OrvKvModifiedParameterInMultiListNotification.h"
+#include "OrvKvParameterEditISOFittingFieldSelectNotification.h"
+#include "OrvKvParameterEditISOFittingGroupSelectNotification.h"
+#include "OrvKvParameterEditISOFittingNotification.h"
+#include "OrvKvParameterEditUpdateISOFittingValuesNotification.h"
+#include "OrvKvParameterListDoubleClickedNotification.h"
 #include "OrvKvParameterListSub.h"
 #include "OrvKvParameterSetSelectedNotification.h"
 #include "OrvKvPrompt.h"
@@ -19,11 +24,12 @@
 #include "OrvKvThreadTakeNotification.h"
 #include "OrvKvThreadTypeNotification.h"
 #include "OrvKvTypeSelectedNotification.h"
+#include "ParameterEditing.h"
 #include "RuleWatch.h"
 #include "SetTable.h"
 #include "ThreadPage.h"
+#include "WidgetSearch.h"
 #include "engineering/FeatureCatalogue.h"
-#include "host/Inspector.h"
 #include "host/ParameterEntry.h"
 
 namespace workbench {
@@ -59,24 +65,11 @@ CATListValCATUnicodeString NamesOf(const std::vector<engineering::ParameterSet>&
     return names;
 }
 
-/// The parameter list below a widget, or null. The main panel hands neither the feature's modifications nor
-/// the silence during a change of sets on to it, so the command does.
-OrvKvParameterListSub* ListIn(const CATDialog& widget) {
-    for (CATDialog* child = host::Inspector::FirstChild(widget); child != nullptr;
-         child = host::Inspector::NextSibling(*child)) {
-        if (auto* const list = dynamic_cast<OrvKvParameterListSub*>(child))
-            return list;
-        if (OrvKvParameterListSub* const list = ListIn(*child))
-            return list;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 FeatureCommand::FeatureCommand(const engineering::FeatureCatalogue& catalogue, const engineering::Part& part,
                                Mode mode)
-    : CATCommand(nullptr, "FeatureCommand"), _catalogue(catalogue), _mode(mode),
+    : DialogCommand("FeatureCommand"), _catalogue(catalogue), _mode(mode), _dialog(*this),
       _inputs(std::make_unique<InputSelection>(part)),
       _thread(std::make_unique<ThreadPage>(catalogue.Threads(), [this] { CheckRules(); })),
       _rules(std::make_unique<RuleWatch>()), _drawings(std::make_unique<DrawingBook>(DrawingBook::Finder())) {
@@ -94,10 +87,11 @@ bool FeatureCommand::Start() {
         return false;
     AttachTo(panel);
     panel->Build();
-    _list = ListIn(*panel);
+    // The main panel hands neither the feature's modifications nor the silence during a change of sets on.
+    _list = FirstIn<OrvKvParameterListSub>(*panel);
     if (!ListenToDialog()) {
         AttachTo(nullptr);
-        _subscriptions.clear();
+        _dialog.Stop();
         panel->RequestDelayedDestruction();
         return false;
     }
@@ -121,24 +115,11 @@ void FeatureCommand::AttachTo(OrvKvMainPanel* panel) {
 }
 
 bool FeatureCommand::ListenToDialog() {
-    const auto accept = static_cast<CATCommandMethod>(&FeatureCommand::OnAccept);
-    const auto apply = static_cast<CATCommandMethod>(&FeatureCommand::OnApply);
-    const auto cancel = static_cast<CATCommandMethod>(&FeatureCommand::OnCancel);
-    const auto help = static_cast<CATCommandMethod>(&FeatureCommand::OnHelp);
-    return ListenTo(_panel, _panel->GetDiaOKNotification(), accept) &&
-           ListenTo(_panel, _panel->GetDiaAPPLYNotification(), apply) &&
-           ListenTo(_panel, _panel->GetDiaCANCELNotification(), cancel) &&
-           ListenTo(_panel, _panel->GetWindCloseNotification(), cancel) &&
-           ListenTo(_panel, _panel->GetDiaHELPNotification(), help);
-}
-
-// Without its notification a widget would be heard with everything that it sends.
-bool FeatureCommand::ListenTo(CATCommand* publisher, CATNotification* notification, CATCommandMethod answer) {
-    if (notification == nullptr)
-        return false;
-    AddAnalyseNotificationCB(publisher, notification, answer, nullptr);
-    _subscriptions.push_back({publisher, notification});
-    return true;
+    return _dialog.ListenTo(_panel, _panel->GetDiaOKNotification(), [this] { OnAccept(); }) &&
+           _dialog.ListenTo(_panel, _panel->GetDiaAPPLYNotification(), [this] { OnApply(); }) &&
+           _dialog.ListenTo(_panel, _panel->GetDiaCANCELNotification(), [this] { End(State::Cancelled); }) &&
+           _dialog.ListenTo(_panel, _panel->GetWindCloseNotification(), [this] { End(State::Cancelled); }) &&
+           _dialog.ListenTo(_panel, _panel->GetDiaHELPNotification(), [this] { OnHelp(); });
 }
 
 FeatureCommand::Answer FeatureCommand::AnswerTo(const CATNotification& notification) {
@@ -150,6 +131,18 @@ FeatureCommand::Answer FeatureCommand::AnswerTo(const CATNotification& notificat
         {OrvKvTypeSelectedNotification::ClassName(), &FeatureCommand::OnTypeSelected},
         {OrvKvParameterSetSelectedNotification::ClassName(), &FeatureCommand::OnParameterSetSelected},
         {OrvKvModifiedParameterInMultiListNotification::ClassName(), &FeatureCommand::OnParameterModified},
+        {OrvKvParameterListDoubleClickedNotification::ClassName(), &FeatureCommand::OnParameterDoubleClicked},
+        {OrvKvParameterEditISOFittingNotification::ClassName(),
+         &FeatureCommand::ToEditing<OrvKvParameterEditISOFittingNotification, &ParameterEditing::OnFit>},
+        {OrvKvParameterEditISOFittingGroupSelectNotification::ClassName(),
+         &FeatureCommand::ToEditing<OrvKvParameterEditISOFittingGroupSelectNotification,
+                                    &ParameterEditing::OnFitGroup>},
+        {OrvKvParameterEditISOFittingFieldSelectNotification::ClassName(),
+         &FeatureCommand::ToEditing<OrvKvParameterEditISOFittingFieldSelectNotification,
+                                    &ParameterEditing::OnFitField>},
+        {OrvKvParameterEditUpdateISOFittingValuesNotification::ClassName(),
+         &FeatureCommand::ToEditing<OrvKvParameterEditUpdateISOFittingValuesNotification,
+                                    &ParameterEditing::OnFitUpdate>},
         {OrvKvSetInputGeometryNotification::ClassName(), &FeatureCommand::OnInputWanted},
         {OrvKvInvertFeatureNotification::ClassName(), &FeatureCommand::OnInverted},
         {OrvKvThreadInitNotification::ClassName(), &FeatureCommand::OnThreadInit},
@@ -201,10 +194,12 @@ void FeatureCommand::UseType(const engineering::FeatureType* type) {
 
 // A type without sets sends no set, so what the type before has left is cleared first.
 void FeatureCommand::ShowType(const engineering::FeatureType* type) {
+    EndEditing();
     _typeKey = type == nullptr ? std::string() : type->Description().key;
     _setName.clear();
-    auto feature =
-        type == nullptr ? nullptr : std::make_unique<EditedFeature>(*type, [this] { CheckRules(); });
+    auto feature = type == nullptr
+                       ? nullptr
+                       : std::make_unique<EditedFeature>(*type, _catalogue.Fits(), [this] { CheckRules(); });
     if (_list != nullptr)
         ShowFailure(
             _list->SetFeatureParameters(feature ? feature->Modifications() : OrvIKvFeatureParameters_var()));
@@ -258,6 +253,7 @@ void FeatureCommand::OnParameterSetSelected(CATNotification& notification) {
         !_feature ? nullptr : _feature->Type().FindSet(name.ConvertToUTF8());
     if (set == nullptr)
         return;
+    EndEditing();
     _setName = set->name;
     Change([this, set] {
         TakeSet(*set);
@@ -302,6 +298,10 @@ const TakenThread* FeatureCommand::Thread() const {
     return _thread->HasThread() ? &_thread->Taken() : nullptr;
 }
 
+engineering::ParameterValue FeatureCommand::ValueOf(const std::string& parameter) const {
+    return _feature ? _feature->ValueOf(parameter) : engineering::ParameterValue();
+}
+
 void FeatureCommand::ShowParameters() {
     if (_mode == Mode::Sets && (!_feature || _setName.empty()))
         return;
@@ -332,6 +332,61 @@ void FeatureCommand::OnParameterModified(CATNotification& notification) {
     CATString name;
     static_cast<OrvKvModifiedParameterInMultiListNotification&>(notification).GetParameterName(name);
     ShowFit(name.ConvertToChar());
+}
+
+// The tables of sets let every tolerance be edited; the catalogue has the last word.
+void FeatureCommand::OnParameterDoubleClicked(CATNotification& notification) {
+    auto& clicked = static_cast<OrvKvParameterListDoubleClickedNotification&>(notification);
+    CATString name;
+    int row = 0;
+    unsigned char editsValue = 0;
+    unsigned char editsTolerance = 0;
+    if (FAILED(clicked.GetParameterName(&name, &row)) || FAILED(clicked.GetEditParameterFlag(editsValue)) ||
+        FAILED(clicked.GetEditToleranceOrFittingFlag(editsTolerance)))
+        return;
+    const engineering::Parameter* const definition =
+        _feature ? _feature->Type().FindParameter(name.ConvertToChar()) : nullptr;
+    if (definition != nullptr)
+        EditParameter({definition->name, editsValue != 0 && definition->valueEditable,
+                       editsTolerance != 0 && definition->toleranceEditable});
+}
+
+// What is edited already is taken over first, so that nothing typed is lost.
+void FeatureCommand::EditParameter(const ParameterRequest& request) {
+    if (!_feature->Parameter(request.parameter))
+        return OrvKvPrompt::Warning(
+            CommandText("NotTabulated", {CATUnicodeString(request.parameter.c_str())}));
+    if (IsEditing()) {
+        if (_editing->Request() == request || !_editing->Accept())
+            return;
+        OnParameterTaken();
+    }
+    _editing = std::make_unique<ParameterEditing>(*this, *_feature, _catalogue.Fits(), request);
+    _editing->WhenTaken([this] { OnParameterTaken(); });
+    if (!_editing->Start())
+        _editing.reset();
+}
+
+// A closed panel has told the change already; the table of sets shows a copy of the parameter.
+void FeatureCommand::OnParameterTaken() {
+    if (IsEditing() || _mode == Mode::Sets)
+        ShowParameters();
+}
+
+bool FeatureCommand::IsEditing() const {
+    return _editing && _editing->IsOpen();
+}
+
+void FeatureCommand::EndEditing() {
+    if (IsEditing())
+        _editing->Leave();
+    _editing.reset();
+}
+
+template<class Heard, void (ParameterEditing::*answer)(Heard&)>
+void FeatureCommand::ToEditing(CATNotification& notification) {
+    if (IsEditing())
+        (_editing.get()->*answer)(static_cast<Heard&>(notification));
 }
 
 host::Outcome FeatureCommand::SetValue(const std::string& parameter, const std::string& text) {
@@ -408,24 +463,20 @@ std::vector<std::string> FeatureCommand::PickedElements() const {
     return _inputs->PickedNames();
 }
 
-void FeatureCommand::OnAccept(CATCommand*, CATNotification*, CATCommandClientData) {
+void FeatureCommand::OnAccept() {
     if (MayBeTaken())
         End(State::Accepted);
 }
 
 // The values that are there are those that the feature starts with from now on.
-void FeatureCommand::OnApply(CATCommand*, CATNotification*, CATCommandClientData) {
+void FeatureCommand::OnApply() {
     if (!_feature || !MayBeTaken())
         return;
     _feature->Apply();
     ShowParameters();
 }
 
-void FeatureCommand::OnCancel(CATCommand*, CATNotification*, CATCommandClientData) {
-    End(State::Cancelled);
-}
-
-void FeatureCommand::OnHelp(CATCommand*, CATNotification*, CATCommandClientData) {
+void FeatureCommand::OnHelp() {
     auto* const message = new CATDlgNotify(_panel, "HelpMessage");
     if (message == nullptr)
         return;
@@ -434,16 +485,17 @@ void FeatureCommand::OnHelp(CATCommand*, CATNotification*, CATCommandClientData)
 }
 
 bool FeatureCommand::MayBeTaken() const {
-    if (!IsValid())
+    if (!IsValid()) {
         OrvKvPrompt::Warning(CommandText("BreaksRules"));
-    return IsValid();
+        return false;
+    }
+    return !IsEditing() || _editing->Apply();
 }
 
 void FeatureCommand::End(State state) {
     _state = state;
-    for (const Subscription& each : _subscriptions)
-        RemoveAnalyseNotificationCB(each.publisher, each.notification, nullptr);
-    _subscriptions.clear();
+    EndEditing();
+    _dialog.Stop();
     OrvKvMainPanel* const panel = _panel;
     AttachTo(nullptr);
     panel->SetVisibility(CATDlgHide);

@@ -83,6 +83,13 @@ void StoreLimits(const CATICkeParm_var& parameter, const Tolerance& tolerance) {
     limits->SetMinTolerance(tolerance.lower);
 }
 
+Tolerance LimitsOf(const CATICkeParm_var& parameter) {
+    const CATIParmTolerance_var limits(parameter);
+    if (!limits || limits->GetTypeOfTolerance() != 1)
+        return {};
+    return {Tolerance::Kind::Limits, {}, limits->GetMaxTolerance(), limits->GetMinTolerance()};
+}
+
 engineering::Value ValueOf(const CATICkeParm_var& parameter, Magnitude magnitude) {
     if (magnitude == Magnitude::String)
         return std::string(parameter->AsString().ConvertToUTF8());

@@ -22,6 +22,9 @@ CATICkeParm_var NewParameterFor(const engineering::Parameter& definition,
 /// Writes limits, or takes them away for any other tolerance, without raising an event.
 void StoreLimits(const CATICkeParm_var& parameter, const engineering::Tolerance& tolerance);
 
+/// The limits that the parameter itself has; None otherwise.
+engineering::Tolerance LimitsOf(const CATICkeParm_var& parameter);
+
 /// The value that a parameter of that magnitude has.
 engineering::Value ValueOf(const CATICkeParm_var& parameter, engineering::Magnitude magnitude);
 

@@ -9,10 +9,11 @@
 //   if (!command.Start())
 //       ... the dialog could not be made ...
 
-#include "CATCommand.h"
 #include "CATUnicodeString.h"
+#include "engineering/ParameterSet.h"
 #include "engineering/Part.h"
 #include "host/Outcome.h"
+#include "workbench/DialogListener.h"
 
 #include <filesystem>
 #include <functional>
@@ -27,7 +28,6 @@ class OrvKvParameterListSub;
 namespace engineering {
 class FeatureCatalogue;
 class FeatureType;
-struct ParameterSet;
 } // namespace engineering
 
 namespace workbench {
@@ -35,11 +35,13 @@ namespace workbench {
 class DrawingBook;
 class EditedFeature;
 class InputSelection;
+class ParameterEditing;
+struct ParameterRequest;
 class RuleWatch;
 class ThreadPage;
 struct TakenThread;
 
-class FeatureCommand : public CATCommand {
+class FeatureCommand : public DialogCommand {
     CATDeclareClass;
 
   public:
@@ -50,8 +52,6 @@ class FeatureCommand : public CATCommand {
 
     /// Catalogue and part are not owned and outlive the command.
     FeatureCommand(const engineering::FeatureCatalogue& catalogue, const engineering::Part& part, Mode mode);
-    FeatureCommand(const FeatureCommand&) = delete;
-    FeatureCommand& operator=(const FeatureCommand&) = delete;
     ~FeatureCommand() override;
 
     /// Where the picture of a type lies; an empty path for a type without one. Without a finder no type has a
@@ -71,6 +71,9 @@ class FeatureCommand : public CATCommand {
     const std::string& SetName() const { return _setName; }
     /// The thread that the feature has taken; nullptr for a feature without thread.
     const TakenThread* Thread() const;
+    /// What a parameter of the feature holds now: its value, and its tolerance as limits or as a class;
+    /// nothing for an unknown name and for one that the set does not tabulate.
+    engineering::ParameterValue ValueOf(const std::string& parameter) const;
     /// Whether the feature breaks no rule that it has to keep. Only then OK ends the command.
     bool IsValid() const;
 
@@ -94,26 +97,21 @@ class FeatureCommand : public CATCommand {
     CATNotifPropagationMode AnalyseNotification(CATCommand* from, CATNotification* notification) override;
 
   private:
-    struct Subscription {
-        CATCommand* publisher;         ///< a widget of the dialog
-        CATNotification* notification; ///< that widget's own
-    };
     using Answer = void (FeatureCommand::*)(CATNotification& notification);
 
     static Answer AnswerTo(const CATNotification& notification);
 
-    bool ListenTo(CATCommand* publisher, CATNotification* notification, CATCommandMethod answer);
     bool ListenToDialog();
 
-    void OnAccept(CATCommand* from, CATNotification* notification, CATCommandClientData data);
-    void OnApply(CATCommand* from, CATNotification* notification, CATCommandClientData data);
-    void OnCancel(CATCommand* from, CATNotification* notification, CATCommandClientData data);
-    void OnHelp(CATCommand* from, CATNotification* notification, CATCommandClientData data);
+    void OnAccept();
+    void OnApply();
+    void OnHelp();
 
     void OnGroupChanged(CATNotification& notification);
     void OnTypeSelected(CATNotification& notification);
     void OnParameterSetSelected(CATNotification& notification);
     void OnParameterModified(CATNotification& notification);
+    void OnParameterDoubleClicked(CATNotification& notification);
     void OnInputWanted(CATNotification& notification);
     void OnInverted(CATNotification& notification);
     void OnThreadInit(CATNotification& notification);
@@ -121,6 +119,14 @@ class FeatureCommand : public CATCommand {
     void OnThreadDiameter(CATNotification& notification);
     void OnThreadTake(CATNotification& notification);
 
+    /// Hands a notification on to the editing of a parameter.
+    template<class Heard, void (ParameterEditing::*answer)(Heard&)>
+    void ToEditing(CATNotification& notification);
+    void EditParameter(const ParameterRequest& request);
+    void OnParameterTaken();
+    bool IsEditing() const;
+    /// Closes the panel of the parameter that is edited; the parameter stays as it is now.
+    void EndEditing();
     void AttachTo(OrvKvMainPanel* panel);
     void UseType(const engineering::FeatureType* type);
     void ShowType(const engineering::FeatureType* type);
@@ -141,12 +147,13 @@ class FeatureCommand : public CATCommand {
 
     const engineering::FeatureCatalogue& _catalogue;
     Mode _mode;
+    DialogListener _dialog;
     State _state = State::NotStarted;
     OrvKvMainPanel* _panel = nullptr;       ///< of the dialog tree; null before the start and after the end
     OrvKvParameterListSub* _list = nullptr; ///< in the panel; null in mode Sets
-    std::vector<Subscription> _subscriptions;
     std::unique_ptr<InputSelection> _inputs;
-    std::unique_ptr<EditedFeature> _feature; ///< null when no type is chosen
+    std::unique_ptr<EditedFeature> _feature;    ///< null when no type is chosen
+    std::unique_ptr<ParameterEditing> _editing; ///< of the parameter edited last; null for none
     std::unique_ptr<ThreadPage> _thread;
     std::unique_ptr<RuleWatch> _rules;
     std::unique_ptr<DrawingBook> _drawings;

@@ -49,6 +49,8 @@ TEST_P(TourTest, HoldsWhenMouseAndKeyboardPlayIt) {
 
 INSTANTIATE_TEST_SUITE_P(Shipped, TourTest,
                          testing::Values(Tour{"feature.jsonl", command::FeatureCommand::Mode::Parameters},
+                                         Tour{"tolerances.jsonl", command::FeatureCommand::Mode::Parameters},
+                                         Tour{"edit-panel.jsonl", command::FeatureCommand::Mode::Parameters},
                                          Tour{"sets.jsonl", command::FeatureCommand::Mode::Sets},
                                          Tour{"pages.jsonl", command::FeatureCommand::Mode::Parameters},
                                          Tour{"pages.jsonl", command::FeatureCommand::Mode::Sets}));

@@ -278,6 +278,26 @@ const std::vector<Fault> tableFaults{
      {"fits/offered_grades.csv:1: the file lists nothing"}},
 };
 
+// A class that a set has must be one of its parameter's side and exist at its size.
+const std::vector<Fault> classFaults{
+    {"ClassThatDoesNotExistAtTheSize",
+     "sets/PlainHole.csv",
+     "4.5,H12",
+     "4.5,M7",
+     {"sets/PlainHole.csv:3: column 'D.tolerance': there is no M7 at 4.5 mm: the tables have no letter M for "
+      "holes"}},
+    {"ClassOfTheParameterBeyondTheTables",
+     "sets/PlainHole.csv",
+     "3.4,",
+     "6.5,",
+     {"sets/PlainHole.csv:2: column 'D [mm]': there is no H13 at 6.5 mm: the tables end at 6 mm"}},
+    {"ClassOfTheOtherSide",
+     "sets/PlainHole.csv",
+     "4.5,H12",
+     "4.5,h6",
+     {"sets/PlainHole.csv:3: column 'D.tolerance': 'h6' is no class of a hole"}},
+};
+
 const std::vector<Fault> sideFaults{
     {"UnknownSide",
      "parameters.csv",
@@ -361,6 +381,7 @@ INSTANTIATE_TEST_SUITE_P(Ranges, BrokenFitsTest, testing::ValuesIn(rangeFaults),
 INSTANTIATE_TEST_SUITE_P(Numbers, BrokenFitsTest, testing::ValuesIn(numberFaults), FaultName);
 INSTANTIATE_TEST_SUITE_P(Rows, BrokenFitsTest, testing::ValuesIn(rowFaults), FaultName);
 INSTANTIATE_TEST_SUITE_P(Tables, BrokenFitsTest, testing::ValuesIn(tableFaults), FaultName);
+INSTANTIATE_TEST_SUITE_P(Classes, BrokenFitsTest, testing::ValuesIn(classFaults), FaultName);
 INSTANTIATE_TEST_SUITE_P(Sides, BrokenFitsTest, testing::ValuesIn(sideFaults), FaultName);
 
 Parsed<Deviations> Read(const LimitsAndFits& fits, double nominal, const char* text) {

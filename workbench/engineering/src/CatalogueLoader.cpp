@@ -56,7 +56,8 @@ class CatalogueReader {
         std::optional<ThreadTables> threads = ReadThreads(_folder, _problems);
         CheckThreadParameters(_folder, types, threads, _problems);
         std::optional<LimitsAndFits> fits = Fits();
-        std::vector<FeatureType> featureTypes = FeatureTypes(types, threads.value_or(ThreadTables()));
+        std::vector<FeatureType> featureTypes =
+            FeatureTypes(types, threads.value_or(ThreadTables()), fits.value_or(LimitsAndFits()));
         if (!IsSound()) {
             return std::nullopt;
         }
@@ -77,7 +78,8 @@ class CatalogueReader {
 
     bool IsSound() const { return _problems.size() == _badConditions; }
 
-    std::vector<FeatureType> FeatureTypes(TypeTable& types, const ThreadTables& threads) {
+    std::vector<FeatureType> FeatureTypes(TypeTable& types, const ThreadTables& threads,
+                                          const LimitsAndFits& fits) {
         if (!IsFolder(_folder / "sets", _problems)) {
             return {};
         }
@@ -86,7 +88,7 @@ class CatalogueReader {
             if (type.setsFile.empty()) {
                 continue;
             }
-            std::vector<ParameterSet> sets = ReadSets(_folder, type, threads, _problems);
+            std::vector<ParameterSet> sets = ReadSets(_folder, type, threads, fits, _problems);
             if (IsSound()) {
                 result.emplace_back(std::move(type.description), std::move(type.parameters), std::move(sets),
                                     std::move(type.inputs), std::move(type.rules));

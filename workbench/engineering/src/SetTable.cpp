@@ -19,8 +19,9 @@ namespace fs = std::filesystem;
 // Reads the lines of a file of sets one after the other.
 class SetReader {
   public:
-    SetReader(const TypeDraft& type, const CsvTable& table, const ThreadTables& threads, FileReport& report)
-        : _type(type), _table(table), _threads(threads),
+    SetReader(const TypeDraft& type, const CsvTable& table, const ThreadTables& threads,
+              const LimitsAndFits& fits, FileReport& report)
+        : _type(type), _table(table), _threads(threads), _fits(fits),
           _columns(ReadSetColumns(type, table.Header(), report)), _report(report) {}
 
     ParameterSet ReadRow(const CsvTable::Row& row) {
@@ -60,10 +61,31 @@ class SetReader {
         entry.value = ValueOf(row, parameter, *place.value, toBase);
         const Tolerance own = OwnTolerance(row, parameter, place, toBase);
         if (!row.cells[*place.value].empty()) {
-            entry.tolerance = own.kind == Tolerance::Kind::None ? parameter.tolerance : own;
+            const bool isOwn = own.kind != Tolerance::Kind::None;
+            entry.tolerance = isOwn ? own : parameter.tolerance;
+            CheckFit(row, isOwn ? *place.tolerance : *place.value, parameter, entry);
         }
         return entry;
     }
+
+    void CheckFit(const CsvTable::Row& row, std::size_t column, const Parameter& parameter,
+                  const ParameterValue& entry) {
+        if (entry.tolerance.kind != Tolerance::Kind::FitClass || !entry.value || _fits.IsEmpty()) {
+            return;
+        }
+        const Parsed<ToleranceClass> fit = ParseToleranceClass(entry.tolerance.fitClass);
+        if (fit.value->side != parameter.side) {
+            Fail(row, column,
+                 Quoted(entry.tolerance.fitClass) + " is no class of a " + NameOf(parameter.side));
+            return;
+        }
+        Parsed<Deviations> deviations = _fits.DeviationsOf(std::get<double>(*entry.value), *fit.value);
+        if (!deviations.value) {
+            Fail(row, column, std::move(deviations.error));
+        }
+    }
+
+    static std::string NameOf(FitSide side) { return side == FitSide::Hole ? "hole" : "shaft"; }
 
     std::optional<Value> ValueOf(const CsvTable::Row& row, const Parameter& parameter, std::size_t column,
                                  double toBase) {
@@ -108,6 +130,7 @@ class SetReader {
     const TypeDraft& _type;
     const CsvTable& _table;
     const ThreadTables& _threads;
+    const LimitsAndFits& _fits;
     const SetColumns _columns;
     FileReport& _report;
     std::unordered_set<std::string> _names; ///< names met so far
@@ -116,7 +139,7 @@ class SetReader {
 } // namespace
 
 std::vector<ParameterSet> ReadSets(const fs::path& folder, const TypeDraft& type, const ThreadTables& threads,
-                                   std::vector<Problem>& problems) {
+                                   const LimitsAndFits& fits, std::vector<Problem>& problems) {
     FileReport typeReport(folder / "types.csv", problems);
     const fs::path file = folder / "sets" / type.setsFile;
     std::error_code error;
@@ -129,7 +152,7 @@ std::vector<ParameterSet> ReadSets(const fs::path& folder, const TypeDraft& type
     if (!table) {
         return {};
     }
-    SetReader reader(type, *table, threads, report);
+    SetReader reader(type, *table, threads, fits, report);
     std::vector<ParameterSet> sets;
     for (const CsvTable::Row& row : table->Rows()) {
         sets.push_back(reader.ReadRow(row));

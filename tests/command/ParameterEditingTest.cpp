@@ -112,6 +112,18 @@ TEST_F(ParameterEditingTest, TwoDeviationsOfASizeWithoutFitsOpenAsTheyAre) {
     }
 }
 
+TEST_F(ParameterEditingTest, ANegativeValueWithAToleranceOpensAsItIs) {
+    StartWithPlate();
+    ASSERT_TRUE(Command().SetValue("A", "-5"));
+    const std::string before = RowOf("A");
+    ASSERT_TRUE(Edit("A"));
+    EXPECT_EQ(ShownIn("A"), "-5deg");
+    EXPECT_EQ(Tolerance(), "plus/minus|0deg|-1deg");
+    ASSERT_TRUE(Press(CATDlgWndOK));
+    ExpectHeld("A", WithLimits(-5, 0, -1));
+    EXPECT_EQ(RowOf("A"), before);
+}
+
 TEST_F(ParameterEditingTest, TakesANewValueOver) {
     StartWithCounterbore();
     ASSERT_TRUE(Edit("T"));

@@ -78,8 +78,17 @@ bool ParameterEditing::Start() {
     ShowTolerance();
     if (!fit && LimitsOf(_feature.Parameter(_request.parameter)) != limits)
         ShowLimits(limits);
+    KeepValue();
     _panel->SetVisibility(CATDlgShow);
     return true;
+}
+
+// The panel makes a negative value 0 as soon as it shows the tolerance; to open it must not change anything.
+void ParameterEditing::KeepValue() {
+    const CATIParmAsStored_var stored(_feature.Parameter(_request.parameter));
+    const auto* const before = _before.value ? std::get_if<double>(&*_before.value) : nullptr;
+    if (before != nullptr && !!stored && stored->GetValue() != *before)
+        stored->SetValue(*before);
 }
 
 // For a size without fits the panel shows the limits of a class.

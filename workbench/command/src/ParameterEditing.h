@@ -79,6 +79,8 @@ class ParameterEditing {
     /// Shows limits that the panel has not kept, as two deviations.
     void ShowLimits(const engineering::Tolerance& limits);
     void Enter(const char* literal, double deviation);
+    /// Gives the parameter the value again that it had before the panel was there, without an event.
+    void KeepValue();
     /// Gives the parameter the tolerance again that it had before the box was unchecked.
     void RestoreTolerance();
     bool HasTolerance() const;

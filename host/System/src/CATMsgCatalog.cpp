@@ -17,6 +17,7 @@ CATUnicodeString CATMsgCatalog::BuildMessage(const CATString& iCatalog, const CA
     if (iParameters == nullptr || iCount < 1)
         return CATUnicodeString(text->c_str());
     std::vector<std::string> parameters;
+    parameters.reserve(static_cast<std::size_t>(iCount));
     for (int number = 0; number < iCount; ++number)
         parameters.emplace_back(iParameters[number].ConvertToChar());
     return CATUnicodeString(host::MessageCatalogs::Fill(*text, parameters).c_str());

@@ -56,9 +56,7 @@ void EditedFeature::Subscribe(std::size_t slot) {
 
 void EditedFeature::OnChanged(CATCallbackEvent, void*, CATNotification*, CATSubscriberData slot,
                               CATCallback) {
-    auto& changed = *static_cast<Slot*>(slot);
-    FollowFit(changed);
-    NoteModification(changed);
+    Settle(*static_cast<Slot*>(slot));
     if (_changed)
         _changed();
 }
@@ -227,11 +225,13 @@ void EditedFeature::UseFit(const std::string& name, const std::string& fitClass)
 }
 
 void EditedFeature::Settle(const std::string& name) {
-    Slot* const slot = Find(name);
-    if (slot == nullptr)
-        return;
-    FollowFit(*slot);
-    NoteModification(*slot);
+    if (Slot* const slot = Find(name))
+        Settle(*slot);
+}
+
+void EditedFeature::Settle(Slot& ioSlot) {
+    FollowFit(ioSlot);
+    NoteModification(ioSlot);
 }
 
 void EditedFeature::Announce(const std::string& name) {

@@ -98,6 +98,7 @@ class EditedFeature : public CATEventSubscriber {
     void OnChanged(CATCallbackEvent event, void* publisher, CATNotification* notification,
                    CATSubscriberData slot, CATCallback id);
     void NoteModification(const Slot& slot);
+    void Settle(Slot& ioSlot);
     std::optional<engineering::Deviations> LimitsOfFit(const Slot& slot) const;
     /// Whether the limits of the parameter are still those of its class.
     bool KeepsFit(const Slot& slot) const;

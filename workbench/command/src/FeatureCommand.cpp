@@ -379,7 +379,7 @@ bool FeatureCommand::IsEditing() const {
 
 void FeatureCommand::EndEditing() {
     if (IsEditing())
-        _editing->Leave();
+        _editing->Close();
     _editing.reset();
 }
 

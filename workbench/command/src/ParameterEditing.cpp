@@ -318,10 +318,6 @@ bool ParameterEditing::Accept() {
     return true;
 }
 
-void ParameterEditing::Leave() {
-    Close();
-}
-
 // The panel must not answer what happens to the parameter afterwards; its widgets go only later.
 void ParameterEditing::Close() {
     _dialog.Stop();

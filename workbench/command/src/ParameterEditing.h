@@ -57,7 +57,7 @@ class ParameterEditing {
     /// Takes it over; the panel stays open.
     bool Apply();
     /// Closes the panel; the parameter stays as it is now.
-    void Leave();
+    void Close();
 
     void OnFit(OrvKvParameterEditISOFittingNotification& notification);
     void OnFitGroup(OrvKvParameterEditISOFittingGroupSelectNotification& notification);
@@ -105,7 +105,6 @@ class ParameterEditing {
     void TakeOver();
     /// Gives the parameter the tolerance again that a designer may not change.
     void KeepTolerance();
-    void Close();
 
     DialogListener _dialog;
     EditedFeature& _feature;
